@@ -1,0 +1,13 @@
+#include "arith/division_by_zero.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace zep {
+
+void division_by_zero(std::string_view field) {
+  std::cout << "\n" << field << ": division by zero\n" << std::flush;
+  std::exit(1);
+}
+
+}  // namespace zep

@@ -1,0 +1,129 @@
+#include "arith/monom.h"
+
+#include <algorithm>
+#include <charconv>
+#include <ostream>
+#include <type_traits>
+
+#include "arith/Fp.h"
+
+namespace zep {
+
+static_assert(std::is_trivially_copyable_v<monom>);
+
+namespace {
+
+int common_slots(const monom& a, const monom& b) { return std::min(a.dim(), b.dim()); }
+
+bool equal_below(const monom& a, const monom& b, int slots) {
+  for (int i = 0; i < slots; ++i) {
+    if (a.exp(i) != b.exp(i)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+monom& monom::operator*=(const monom& b) {
+  for (int i = 0; i < common_slots(*this, b); ++i) set_exp(i, exp(i) + b.exp(i));
+  return *this;
+}
+
+monom& monom::operator/=(const monom& b) {
+  for (int i = 0; i < common_slots(*this, b); ++i) set_exp(i, exp(i) - b.exp(i));
+  return *this;
+}
+
+bool operator==(const monom& a, const monom& b) { return equal_below(a, b, common_slots(a, b)); }
+
+bool aff_eq(const monom& a, const monom& b) { return equal_below(a, b, proj - 1); }
+
+monom operator*(const monom& a, const monom& b) {
+  monom product;
+  const int slots = std::min(common_slots(a, b), product.dim());
+  for (int i = 0; i < slots; ++i) product.set_exp(i, a.exp(i) + b.exp(i));
+  return product;
+}
+
+monom operator/(const monom& a, const monom& b) {
+  monom quotient;
+  const int slots = std::min(common_slots(a, b), quotient.dim());
+  for (int i = 0; i < slots; ++i) quotient.set_exp(i, a.exp(i) - b.exp(i));
+  return quotient;
+}
+
+monom lcm(const monom& a, const monom& b) {
+  monom m = a;
+  for (int i = 0; i < common_slots(a, b); ++i) m.set_exp(i, std::max(a.exp(i), b.exp(i)));
+  return m;
+}
+
+monom gcd(const monom& a, const monom& b) {
+  monom m = a;
+  for (int i = 0; i < common_slots(a, b); ++i) m.set_exp(i, std::min(a.exp(i), b.exp(i)));
+  return m;
+}
+
+monom variable(int i) {
+  monom m;
+  m.set_exp(i, 1);
+  return m;
+}
+
+int sign(const monom& m) {
+  for (int i = 0; i < m.dim(); ++i) {
+    if (m.exp(i) != 0) return 1;
+  }
+  return 0;
+}
+
+int len(const monom& m) {
+  int width = 0;
+  for (int i = 0; i < m.dim(); ++i) {
+    if (m.exp(i) == 1) width += 1;
+    if (m.exp(i) > 1) width += len(static_cast<int>(m.exp(i))) + 2;
+  }
+  return width;
+}
+
+std::size_t monom_hash::operator()(const monom& m) const {
+  // Multiplication by an odd constant with well mixed bits (2^64 over the golden ratio), and the
+  // high half folded down so that the low bits depend on every exponent.
+  std::uint64_t h = 0;
+  for (int i = 0; i < proj - 1; ++i) {
+    h = (h ^ static_cast<std::uint16_t>(m.exp(i))) * 0x9E3779B97F4A7C15U;
+    h ^= h >> 32;
+  }
+  return static_cast<std::size_t>(h);
+}
+
+void append(std::string& text, const monom& m, text_form form) {
+  if (sign(m) == 0) {
+    text += '1';
+    return;
+  }
+  for (int i = 0; i < m.dim(); ++i) {
+    const int e = m.exp(i);
+    if (e == 0) continue;
+    text += varstring[static_cast<std::size_t>(i)];
+    if (e == 1) continue;
+    if (form == text_form::screen) text += '^';
+    std::array<char, 8> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), e).ptr;
+    text.append(digits.data(), end);
+  }
+}
+
+std::ostream& operator<<(std::ostream& out, const monom& m) {
+  std::string text;
+  append(text, m, text_form::screen);
+  return out << text;
+}
+
+void put(std::ostream& out, const monom& m) {
+  std::string text;
+  append(text, m, text_form::file);
+  out << text;
+}
+
+}  // namespace zep

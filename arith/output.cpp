@@ -1,0 +1,14 @@
+#include "arith/output.h"
+
+namespace zep {
+
+int LL = 80;
+std::string Line = std::string(79, '-') + "\n";
+int counter = 0;
+
+void set_line_length(int length) {
+  LL = length;
+  Line = std::string(static_cast<std::size_t>(length) - 1, '-') + "\n";
+}
+
+}  // namespace zep

@@ -1,0 +1,21 @@
+// The layout of everything that is printed: line length, separator line, output column.
+#pragma once
+
+#include <string>
+
+namespace zep {
+
+// Line length. Long polynomials are broken before it, the separator line and the help follow it.
+extern int LL;
+
+// Separator line: LL - 1 dashes and a line end. Kept in step with LL by `set_line_length`.
+extern std::string Line;
+
+// Column that the output has reached. Whoever starts a line sets it; the polynomial inserter
+// advances it and breaks the line between two terms.
+extern int counter;
+
+// Sets LL to `length` (at least 1) and cuts Line to it.
+void set_line_length(int length);
+
+}  // namespace zep

@@ -1,0 +1,228 @@
+#include "arith/polynomial.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "arith/ordering.h"
+#include "arith/output.h"
+
+namespace zep {
+
+namespace {
+
+// a + b or a - b, merged under the affine order.
+template <class Sign>
+void merge(std::vector<monom>& term, std::vector<Fp8>& coef, const polynomial& a,
+           const polynomial& b, Sign signed_coef) {
+  term.reserve(static_cast<std::size_t>(a.no_of_monoms()) +
+               static_cast<std::size_t>(b.no_of_monoms()));
+  coef.reserve(term.capacity());
+  const auto append = [&](const monom& m, Fp8 c) {
+    term.push_back(m);
+    coef.push_back(c);
+  };
+  int i = 0;
+  int j = 0;
+  while (i < a.no_of_monoms() && j < b.no_of_monoms()) {
+    if (monom_ordering_lt(a.term(i), b.term(j))) {
+      append(b.term(j), signed_coef(b.coef(j)));
+      ++j;
+    } else if (monom_ordering_lt(b.term(j), a.term(i))) {
+      append(a.term(i), a.coef(i));
+      ++i;
+    } else {
+      const Fp8 sum = a.coef(i) + signed_coef(b.coef(j));
+      if (sum != 0) append(a.term(i), sum);
+      ++i;
+      ++j;
+    }
+  }
+  for (; i < a.no_of_monoms(); ++i) append(a.term(i), a.coef(i));
+  for (; j < b.no_of_monoms(); ++j) append(b.term(j), signed_coef(b.coef(j)));
+}
+
+template <class Sign>
+polynomial merged(const polynomial& a, const polynomial& b, Sign signed_coef) {
+  if (sign(b) == 0) return a;
+  std::vector<monom> term;
+  std::vector<Fp8> coef;
+  if (sign(a) == 0) {
+    for (int j = 0; j < b.no_of_monoms(); ++j) {
+      term.push_back(b.term(j));
+      coef.push_back(signed_coef(b.coef(j)));
+    }
+  } else {
+    merge(term, coef, a, b, signed_coef);
+  }
+  return {std::move(term), std::move(coef)};
+}
+
+bool shows_coefficient(const monom& m, Fp8 absolute) { return absolute != 1 || sign(m) == 0; }
+
+// The coefficient without its sign, then the monomial, each where it is shown.
+void append_term(std::string& text, const monom& m, Fp8 absolute, text_form form) {
+  if (shows_coefficient(m, absolute)) text += std::to_string(absolute.value());
+  if (sign(m) != 0) append(text, m, form);
+}
+
+int term_width(const monom& m, Fp8 coef, bool first) {
+  const Fp8 absolute = abs(coef);
+  int width = 3;
+  if (first) width = sign(coef) < 1 ? 2 : 0;
+  if (shows_coefficient(m, absolute)) width += len(absolute);
+  return width + len(m);
+}
+
+}  // namespace
+
+polynomial::polynomial(int c) : term_(1), coef_(1) { coef_[0] = c; }
+
+polynomial::polynomial(const monom& m, Fp8 c) : term_{c == 0 ? monom() : m}, coef_{c} {}
+
+polynomial::polynomial(std::vector<monom> terms, std::vector<Fp8> coefs)
+    : term_(std::move(terms)), coef_(std::move(coefs)) {
+  if (term_.empty()) *this = polynomial(0);
+}
+
+polynomial& polynomial::operator+=(const polynomial& b) {
+  return *this = merged(*this, b, [](Fp8 c) { return c; });
+}
+
+polynomial& polynomial::operator-=(const polynomial& b) {
+  return *this = merged(*this, b, [](Fp8 c) { return -c; });
+}
+
+polynomial& polynomial::operator*=(Fp8 c) {
+  if (c == 0) return *this = 0;
+  for (Fp8& coef : coef_) coef *= c;
+  drop_zero_terms();
+  return *this;
+}
+
+void polynomial::drop_zero_terms() {
+  if (std::find(coef_.begin(), coef_.end(), Fp8(0)) == coef_.end()) return;
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < coef_.size(); ++i) {
+    if (coef_[i] == 0) continue;
+    term_[kept] = term_[i];
+    coef_[kept++] = coef_[i];
+  }
+  if (kept == 0) {
+    *this = 0;
+    return;
+  }
+  term_.resize(kept);
+  coef_.resize(kept);
+}
+
+polynomial& polynomial::operator*=(const monom& m) {
+  if (sign(*this) == 0) return *this;
+  for (monom& term : term_) term *= m;
+  return *this;
+}
+
+polynomial operator+(const polynomial& a) { return a; }
+
+polynomial operator-(polynomial a) { return std::move(a *= -Fp8(1)); }
+
+polynomial operator+(polynomial a, const polynomial& b) { return std::move(a += b); }
+
+polynomial operator-(polynomial a, const polynomial& b) { return std::move(a -= b); }
+
+polynomial operator*(polynomial a, Fp8 c) { return std::move(a *= c); }
+
+polynomial operator*(const polynomial& a, const polynomial& b) {
+  polynomial product(0);
+  if (sign(a) == 0 || sign(b) == 0) return product;
+  for (int j = 0; j < b.no_of_monoms(); ++j) {
+    polynomial shifted = a;
+    shifted *= b.term(j);
+    shifted *= b.coef(j);
+    product += shifted;
+  }
+  return product;
+}
+
+bool operator==(const polynomial& a, const polynomial& b) {
+  if (a.no_of_monoms() != b.no_of_monoms()) return false;
+  for (int i = 0; i < a.no_of_monoms(); ++i) {
+    if (a.term(i) != b.term(i) || a.coef(i) != b.coef(i)) return false;
+  }
+  return true;
+}
+
+bool operator<(const polynomial& a, const polynomial& b) { return a.term(0) < b.term(0); }
+bool operator>(const polynomial& a, const polynomial& b) { return a.term(0) > b.term(0); }
+
+int sign(const polynomial& a) { return std::abs(sign(a.coef(0))); }
+
+int is_prj(const polynomial& a) { return a.term(0).exp(proj - 1); }
+
+polynomial Lf(const polynomial& f) {
+  std::vector<monom> term;
+  std::vector<Fp8> coef;
+  const int degree = f.term(0).tot_deg();
+  for (int i = 0; sign(f) != 0 && i < f.no_of_monoms() && f.term(i).tot_deg() == degree; ++i) {
+    term.push_back(f.term(i));
+    coef.push_back(f.coef(i));
+  }
+  return {std::move(term), std::move(coef)};
+}
+
+void hom(polynomial& h, const polynomial& f) {
+  polynomial result = f;
+  const int degree = f.term(0).tot_deg();
+  for (monom& term : result.term_) {
+    prj(term);
+    term.set_exp(proj - 1, degree - term.tot_deg());
+  }
+  h = std::move(result);
+}
+
+std::ostream& operator<<(std::ostream& out, const polynomial& f) {
+  if (sign(f) == 0) {
+    counter += 2;
+    return out << " 0";
+  }
+  std::string text;
+  for (int i = 0; i < f.no_of_monoms(); ++i) {
+    const bool first = i == 0;
+    const bool negative = sign(f.coef(i)) < 1;
+    const int width = term_width(f.term(i), f.coef(i), first);
+    if (first || counter + width < LL - 1) {
+      counter += width;
+    } else {
+      text += '\n';
+      counter = width;
+    }
+    if (first) {
+      if (negative) text += "- ";
+    } else {
+      text += negative ? " - " : " + ";
+    }
+    append_term(text, f.term(i), abs(f.coef(i)), text_form::screen);
+  }
+  return out << text;
+}
+
+void polynomial::put(std::ostream& out) const {
+  if (sign(*this) == 0) {
+    out << "0";
+    return;
+  }
+  std::string text;
+  for (int i = 0; i < no_of_monoms(); ++i) {
+    if (sign(coef(i)) < 1) {
+      text += '-';
+    } else if (i > 0) {
+      text += '+';
+    }
+    append_term(text, term(i), abs(coef(i)), text_form::file);
+  }
+  out << text;
+}
+
+}  // namespace zep

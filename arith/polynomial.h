@@ -1,0 +1,85 @@
+// Polynomials over Fp8.
+#pragma once
+
+#include <iosfwd>
+#include <vector>
+
+#include "arith/Fp8.h"
+#include "arith/monom.h"
+
+namespace zep {
+
+// A sum of terms, strictly descending in the order in force, every coefficient non-zero. The zero
+// polynomial is the single term 0 * 1, so looking at the leading coefficient tells zero.
+//
+// Affine polynomials have affine terms; `hom` and products with projective monomials make
+// projective ones. Sums compare the affine parts of terms only, in both kinds.
+class polynomial {
+ public:
+  // c * 1, with c reduced as Fp8's assignment does.
+  explicit polynomial(int c = 0);
+  // 1 * m.
+  explicit polynomial(const monom& m) : polynomial(m, Fp8(1)) {}
+  // c * m.
+  polynomial(const monom& m, Fp8 c);
+  // The given terms, which must be descending with non-zero coefficients; none for zero.
+  polynomial(std::vector<monom> terms, std::vector<Fp8> coefs);
+
+  polynomial& operator=(int c) { return *this = polynomial(c); }
+  polynomial& operator=(const monom& m) { return *this = polynomial(m); }
+
+  int no_of_monoms() const { return static_cast<int>(term_.size()); }
+  // Term i and its coefficient, 0 <= i < no_of_monoms(); term 0 leads.
+  const monom& term(int i) const { return term_[static_cast<std::size_t>(i)]; }
+  Fp8 coef(int i) const { return coef_[static_cast<std::size_t>(i)]; }
+
+  polynomial& operator+=(const polynomial& b);
+  polynomial& operator-=(const polynomial& b);
+  polynomial& operator*=(Fp8 c);
+  // Multiplies every term in place; the order of terms is that of the factor.
+  polynomial& operator*=(const monom& m);
+
+  // The file form: no blanks, no carets, no line breaking.
+  void put(std::ostream& out) const;
+
+ private:
+  friend void hom(polynomial& h, const polynomial& f);
+
+  // Divisors of zero exist in a composite characteristic only; there a product may lose terms.
+  void drop_zero_terms();
+
+  std::vector<monom> term_;
+  std::vector<Fp8> coef_;
+};
+
+polynomial operator+(const polynomial& a);
+polynomial operator-(polynomial a);
+polynomial operator+(polynomial a, const polynomial& b);
+polynomial operator-(polynomial a, const polynomial& b);
+polynomial operator*(polynomial a, Fp8 c);
+polynomial operator*(const polynomial& a, const polynomial& b);
+
+// Equal terms and coefficients.
+bool operator==(const polynomial& a, const polynomial& b);
+
+// Order of the leading monomials.
+bool operator<(const polynomial& a, const polynomial& b);
+bool operator>(const polynomial& a, const polynomial& b);
+
+// 0 for zero, else 1.
+int sign(const polynomial& a);
+
+// Exponent of the homogenising variable in the leading monomial.
+int is_prj(const polynomial& a);
+
+// Leading form: the terms of the degree of the leading term, up to the first term of another.
+polynomial Lf(const polynomial& f);
+
+// Makes h the homogenisation of f to the degree of its leading term; the order of terms is f's.
+void hom(polynomial& h, const polynomial& f);
+
+// The screen form: X^2 - 3XY + 1. Starts at the column `counter`, advances it, and breaks the line
+// between two terms where the next one would pass LL - 1.
+std::ostream& operator<<(std::ostream& out, const polynomial& f);
+
+}  // namespace zep

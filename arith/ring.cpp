@@ -1,0 +1,14 @@
+#include "arith/ring.h"
+
+namespace zep {
+
+int dim = 3;
+int proj = 4;
+std::string varstring = "XYZTabcdefghijklmnopqrstuvw";
+
+void set_dimension(int n) {
+  dim = n;
+  proj = n + 1;
+}
+
+}  // namespace zep

@@ -1,0 +1,41 @@
+// The table of commands, and carrying one out.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "front/session.h"
+
+namespace zep {
+
+// What a command takes from the interpreter: the identifier of a scheme, of any type, or nothing.
+enum class command_kind { nothing = -1, any_identifier = 0, scheme_identifier = scheme_type };
+
+struct command_record {
+  // At most 11 characters; matching looks at whole words of 12.
+  const char* name;
+  command_kind kind;
+  // Carries the command out; the identifier is meaningful where the kind asks for one. Null for a
+  // command that is announced but not available yet.
+  void (*action)(session& z, int identifier);
+};
+
+constexpr int no_of_commands = 67;
+
+// A command's number is its position here. Alphabetical.
+extern const std::array<command_record, no_of_commands> command;
+
+// Number of the command that shows an identifier, carried out for an identifier typed alone.
+constexpr int display_command = 14;
+
+// Number of the command with that name, or -1.
+int find_command(const std::string& name);
+
+// Checks the identifier that command c asks for, reports what is wrong with it, or else carries the
+// command out. `identifier` is an index of the table, unknown_identifier or no_identifier.
+void execute(session& z, int c, int identifier);
+
+// Prints the names of all commands.
+void help();
+
+}  // namespace zep

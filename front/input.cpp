@@ -1,0 +1,85 @@
+#include "front/input.h"
+
+#include "arith/reading.h"
+
+namespace zep {
+
+namespace {
+
+constexpr int end = std::istream::traits_type::eof();
+
+bool is_space(int c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+}  // namespace
+
+int input::peek() {
+  const int c = in_.peek();
+  // An end is no fault: what comes next finds the stream as good as before.
+  if (c == end) in_.clear();
+  return c;
+}
+
+std::string input::word(int length) {
+  while (is_space(peek())) in_.get();
+  std::string text;
+  for (int c = peek(); c != end && !is_space(c); c = peek()) {
+    if (length != any_length && static_cast<int>(text.size()) == length) break;
+    text += static_cast<char>(c);
+    in_.get();
+  }
+  if (text.empty()) throw end_of_input();
+  return text;
+}
+
+// Throws unless the number that was read last is a good one; the stream is usable afterwards.
+void input::settle() {
+  if (in_) return;
+  const bool ended = in_.eof();
+  in_.clear();
+  if (ended) throw end_of_input();
+  throw malformed_number();
+}
+
+int input::integer() {
+  int n = 0;
+  read_integer(in_, n);
+  settle();
+  return n;
+}
+
+Fp8 input::coefficient() {
+  Fp8 x;
+  in_ >> x;
+  settle();
+  return x;
+}
+
+int input::integer_or(int otherwise) {
+  try {
+    return integer();
+  } catch (const malformed_number&) {
+    return otherwise;
+  }
+}
+
+void input::skip_character() {
+  if (peek() == end) throw end_of_input();
+  in_.get();
+}
+
+bool input::at_line_end() {
+  const int c = peek();
+  if (c == end) throw end_of_input();
+  return c == '\n';
+}
+
+std::string input::rest_of_line() {
+  std::string text;
+  for (int c = peek(); c != end && c != '\n'; c = peek()) {
+    if (!text.empty() || !is_space(c)) text += static_cast<char>(c);
+    in_.get();
+  }
+  return text;
+}
+
+}  // namespace zep

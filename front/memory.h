@@ -1,0 +1,13 @@
+// Exhausted memory.
+#pragma once
+
+namespace zep {
+
+// Says on standard error that memory is exhausted, and ends the process with status 10.
+[[noreturn]] void mem_warn();
+
+// Makes mem_warn the answer to every failed allocation, those of the multiprecision library
+// included.
+void install_mem_warn();
+
+}  // namespace zep

@@ -1,0 +1,55 @@
+#include "front/parser.h"
+
+#include <iostream>
+#include <string>
+
+#include "front/command.h"
+#include "front/error.h"
+
+namespace zep {
+
+namespace {
+
+// The identifier typed behind a command. The next line is looked at only when white space, and not
+// the line end, follows the command.
+int read_identifier(session& z) {
+  if (z.typed.at_line_end()) return no_identifier;
+  return z.var.find(z.typed.word(identifier_length));
+}
+
+void carry_out(session& z, const std::string& word) {
+  const int c = find_command(word);
+  if (c >= 0) {
+    const bool takes_identifier =
+        command[static_cast<std::size_t>(c)].kind != command_kind::nothing;
+    execute(z, c, takes_identifier ? read_identifier(z) : no_identifier);
+    return;
+  }
+  const int identifier = z.var.find(word);
+  if (identifier == unknown_identifier) {
+    error(error_code::unknown_word);
+  } else {
+    execute(z, display_command, identifier);
+  }
+}
+
+void report_rest_of_line(session& z) {
+  const std::string rest = z.typed.rest_of_line();
+  if (!rest.empty()) std::cout << "unexpected '" << rest << "'\n";
+}
+
+}  // namespace
+
+void parser(session& z) {
+  while (!z.quit) {
+    std::cout << "% ";
+    try {
+      carry_out(z, z.typed.word(identifier_length));
+      report_rest_of_line(z);
+    } catch (const end_of_input&) {
+      z.quit = true;
+    }
+  }
+}
+
+}  // namespace zep

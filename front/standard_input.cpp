@@ -1,0 +1,38 @@
+#include "front/standard_input.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <iostream>
+
+namespace zep {
+
+namespace {
+
+constexpr std::size_t buffer_size = 1U << 16U;
+
+ssize_t read_some(char* buffer, std::size_t size) {
+  ssize_t count = 0;
+  do {
+    count = ::read(STDIN_FILENO, buffer, size);
+  } while (count < 0 && errno == EINTR);
+  return count;
+}
+
+}  // namespace
+
+standard_input::standard_input() : buffer_(buffer_size) {}
+
+standard_input::int_type standard_input::underflow() {
+  if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
+  std::cout.flush();
+  const ssize_t count = ended_ ? 0 : read_some(buffer_.data(), buffer_.size());
+  if (count <= 0) {
+    ended_ = true;
+    return traits_type::eof();
+  }
+  setg(buffer_.data(), buffer_.data(), buffer_.data() + count);
+  return traits_type::to_int_type(*gptr());
+}
+
+}  // namespace zep

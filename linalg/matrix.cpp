@@ -1,0 +1,168 @@
+#include "linalg/matrix.h"
+
+#include <algorithm>
+#include <istream>
+#include <numeric>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "linalg/row_operations.h"
+
+namespace zep {
+
+namespace {
+
+// The state of one `solve`: a is addressed through the orders c and r.
+class gauss_jordan {
+ public:
+  gauss_jordan(matrix& a, std::span<int> c, std::span<int> r) : a_(a), c_(c), r_(r) {}
+
+  int run() {
+    const int steps = std::min(a_.cols(), a_.rows());
+    int free_unknowns = a_.cols();
+    for (int k = 0; k < steps && find_pivot(k); ++k) {
+      if (--free_unknowns == 0) return 0;
+      normalise(k);
+      for (int i = k + 1; i < a_.rows(); ++i) subtract(i, k);
+    }
+    const int rank = a_.cols() - free_unknowns;
+    for (int k = rank - 2; k >= 0; --k) {
+      for (int j = k + 1; j < rank; ++j) subtract(k, j);
+    }
+    return free_unknowns;
+  }
+
+ private:
+  int& column(int k) { return c_[static_cast<std::size_t>(k)]; }
+  int& row_index(int k) { return r_[static_cast<std::size_t>(k)]; }
+  Fp8* row(int k) { return a_[row_index(k)]; }
+  std::size_t width() const { return static_cast<std::size_t>(a_.cols()); }
+
+  // Brings a non-zero entry to position (k, k): a row from below, or else, with another column.
+  bool find_pivot(int k) {
+    while (true) {
+      for (int i = k; i < a_.rows(); ++i) {
+        if (row(i)[column(k)] != 0) {
+          std::swap(row_index(k), row_index(i));
+          return true;
+        }
+      }
+      if (k + deferred_ >= a_.cols() - 1) return false;
+      ++deferred_;
+      std::swap(column(k), column(a_.cols() - deferred_));
+    }
+  }
+
+  void normalise(int k) {
+    Fp8& pivot = row(k)[column(k)];
+    scale(row(k), Fp8(1) / pivot, width());
+    pivot = 1;
+  }
+
+  // Clears the entry of row i in the pivot column k. Whole rows, although only the columns behind
+  // k can change: row k is zero in the earlier ones.
+  void subtract(int i, int k) {
+    Fp8& entry = row(i)[column(k)];
+    axpy(row(i), row(k), -entry, width());
+    entry = 0;
+  }
+
+  matrix& a_;
+  std::span<int> c_;
+  std::span<int> r_;
+  int deferred_ = 0;
+};
+
+std::string blanks(int n) { return std::string(static_cast<std::size_t>(n), ' '); }
+
+int width_of_column(const matrix& m, int j) {
+  int width = 0;
+  for (int i = 0; i < m.rows(); ++i) width = std::max(width, len(m[i][j]));
+  return width;
+}
+
+void print_row(std::ostream& out, const matrix& m, int i, const std::vector<int>& widths) {
+  out << "[ ";
+  for (int j = 0; j < m.cols(); ++j) {
+    const int spare = widths[static_cast<std::size_t>(j)] - len(m[i][j]);
+    if (j > 0) out << "  ";
+    out << blanks((spare + 1) / 2) << m[i][j] << blanks(spare / 2);
+  }
+  out << " ]\n";
+}
+
+std::string empty_row(const std::vector<int>& widths) {
+  std::string text = "[ ";
+  for (std::size_t j = 0; j < widths.size(); ++j) {
+    if (j > 0) text += "  ";
+    text += blanks(widths[j]);
+  }
+  return text + " ]\n";
+}
+
+}  // namespace
+
+matrix::matrix(int c, int r) : cols_(std::max(c, 0)), rows_(std::max(r, 0)), a_(offset(rows_)) {}
+
+void matrix::init() { std::fill(a_.begin(), a_.end(), Fp8(0)); }
+
+Fp8 matrix::minor(std::span<const int> col, std::span<const int> rr) const {
+  const int n = static_cast<int>(col.size());
+  matrix w(n, n);
+  for (int i = 0; i < n; ++i) {
+    const Fp8* row = (*this)[rr[static_cast<std::size_t>(i)]];
+    for (int j = 0; j < n; ++j) w[i][j] = row[col[static_cast<std::size_t>(j)]];
+  }
+  std::vector<int> order = identity_order(n);
+  const auto row = [&](int k) { return w[order[static_cast<std::size_t>(k)]]; };
+  Fp8 determinant(1);
+  for (int k = 0; k < n; ++k) {
+    int p = k;
+    while (p < n && row(p)[k] == 0) ++p;
+    if (p == n) return Fp8(0);
+    if (p != k) {
+      std::swap(order[static_cast<std::size_t>(p)], order[static_cast<std::size_t>(k)]);
+      determinant = -determinant;
+    }
+    const Fp8 pivot = row(k)[k];
+    determinant *= pivot;
+    for (int i = k + 1; i < n; ++i) {
+      axpy(row(i) + k, row(k) + k, -(row(i)[k] / pivot), static_cast<std::size_t>(n - k));
+    }
+  }
+  return determinant;
+}
+
+int matrix::solve(std::span<int> c, std::span<int> r) { return gauss_jordan(*this, c, r).run(); }
+
+std::vector<int> identity_order(int n) {
+  std::vector<int> order(static_cast<std::size_t>(n));
+  std::iota(order.begin(), order.end(), 0);
+  return order;
+}
+
+int rank(matrix m) {
+  std::vector<int> c = identity_order(m.cols());
+  std::vector<int> r = identity_order(m.rows());
+  return m.cols() - m.solve(c, r);
+}
+
+std::ostream& operator<<(std::ostream& out, const matrix& m) {
+  std::vector<int> widths = identity_order(m.cols());
+  for (int& j : widths) j = width_of_column(m, j);
+  for (int i = 0; i < m.rows(); ++i) {
+    if (i > 0) out << empty_row(widths);
+    print_row(out, m, i, widths);
+  }
+  return out;
+}
+
+std::istream& operator>>(std::istream& in, matrix& m) {
+  for (int i = 0; i < m.rows(); ++i) {
+    for (int j = 0; j < m.cols() && in; ++j) in >> m[i][j];
+  }
+  return in;
+}
+
+}  // namespace zep

@@ -1,0 +1,95 @@
+#include "linalg/row_operations.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+namespace zep {
+
+namespace {
+
+using lane = std::uint16_t;
+
+// Every sum before a reduction fits a 16-bit lane: d + c * s with d, c, s < p.
+constexpr unsigned largest_prime = 251;
+static_assert((largest_prime - 1) + (largest_prime - 1) * (largest_prime - 1) <= 0xFFFFU);
+
+// x mod p by a multiplication. With m = floor(2^16 / p) the quotient floor(x * m / 2^16) is
+// floor(x / p) or one less for x < 2^16, so one conditional subtraction is left; as an unsigned
+// minimum it needs no branch, since a negative difference wraps to a large number.
+//
+// The loops are functions of their own that take 16-bit arguments: inlined, the compiler sees the
+// wider computation of the reciprocal and spreads the lanes to 32 bits, at a third of the speed.
+struct modulus {
+  lane p;
+  lane reciprocal;
+
+  static modulus current() {
+    const auto p = static_cast<unsigned>(Fp8::prime);
+    return {static_cast<lane>(p), static_cast<lane>(0x10000U / p)};
+  }
+};
+
+inline lane reduce(lane x, lane p, lane reciprocal) {
+  const auto quotient = static_cast<lane>(
+      (static_cast<std::uint32_t>(x) * static_cast<std::uint32_t>(reciprocal)) >> 16U);
+  const auto rest = static_cast<lane>(x - static_cast<lane>(quotient * p));
+  return std::min(rest, static_cast<lane>(rest - p));
+}
+
+const std::uint8_t* bytes(const Fp8* row) { return reinterpret_cast<const std::uint8_t*>(row); }
+std::uint8_t* bytes(Fp8* row) { return reinterpret_cast<std::uint8_t*>(row); }
+
+[[gnu::noinline]] void axpy_bytes(std::uint8_t* __restrict d, const std::uint8_t* __restrict s,
+                                  lane c, std::size_t n, lane p, lane reciprocal) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto sum = static_cast<lane>(d[i] + static_cast<lane>(c * s[i]));
+    d[i] = static_cast<std::uint8_t>(reduce(sum, p, reciprocal));
+  }
+}
+
+[[gnu::noinline]] void scale_bytes(std::uint8_t* d, lane c, std::size_t n, lane p,
+                                   lane reciprocal) {
+  for (std::size_t i = 0; i < n; ++i) {
+    d[i] = static_cast<std::uint8_t>(reduce(static_cast<lane>(c * d[i]), p, reciprocal));
+  }
+}
+
+[[gnu::noinline]] void product_bytes(std::uint8_t* d, const std::uint8_t* a, const std::uint8_t* b,
+                                     std::size_t n, lane p, lane reciprocal) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto product = static_cast<lane>(static_cast<lane>(a[i]) * static_cast<lane>(b[i]));
+    d[i] = static_cast<std::uint8_t>(reduce(product, p, reciprocal));
+  }
+}
+
+}  // namespace
+
+void axpy(Fp8* d, const Fp8* s, Fp8 c, std::size_t n) {
+  if (c == 0) return;
+  const modulus m = modulus::current();
+  axpy_bytes(bytes(d), bytes(s), c.value(), n, m.p, m.reciprocal);
+}
+
+void scale(Fp8* d, Fp8 c, std::size_t n) {
+  if (c == 1) return;
+  const modulus m = modulus::current();
+  scale_bytes(bytes(d), c.value(), n, m.p, m.reciprocal);
+}
+
+void pointwise_product(Fp8* d, const Fp8* a, const Fp8* b, std::size_t n) {
+  const modulus m = modulus::current();
+  product_bytes(bytes(d), bytes(a), bytes(b), n, m.p, m.reciprocal);
+}
+
+std::size_t first_nonzero(const Fp8* s, std::size_t n) {
+  std::size_t i = 0;
+  for (std::uint64_t word = 0; i + sizeof word <= n; i += sizeof word) {
+    std::memcpy(&word, s + i, sizeof word);
+    if (word != 0) break;
+  }
+  while (i < n && s[i] == 0) ++i;
+  return i;
+}
+
+}  // namespace zep

@@ -1,0 +1,30 @@
+#include "scheme/display.h"
+
+#include <ostream>
+
+#include "arith/output.h"
+#include "scheme/gorenstein.h"
+#include "scheme/invariants.h"
+
+namespace zep {
+
+std::ostream& operator<<(std::ostream& out, scheme& X) {
+  out << "scheme consists of " << X.s << " points:\n";
+  disp_scheme(out, X);
+  out << "\n" << Line;
+  if (X.has_bu_mo) {
+    order_ideal(out, X);
+    hilb_fct(out, X);
+    delta_fct(out, X);
+    sigma_X(out, X);
+    delta_X(out, X);
+    alpha_X(out, X);
+  }
+  if (X.sep == 1) {
+    is_CB(out, X);
+    is_ar_Go(out, X);
+  }
+  return out;
+}
+
+}  // namespace zep

@@ -1,0 +1,89 @@
+// The record of one point set and of everything computed for it.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <vector>
+
+#include "linalg/matrix.h"
+#include "scheme/over_O.h"
+
+namespace zep {
+
+// A set X of s points of P^n over F_p, and results. A point (1 : x_1 : ... : x_n) is kept by its
+// affine coordinates. Results are absent at first; the first computation that needs one makes it,
+// stores it when it has succeeded, and it is never made again. The points are taken to be distinct;
+// with repeated points all results are meaningless, but nothing breaks.
+struct scheme {
+  // A scheme of ss points (none for a negative number), all coordinates 0, in the ring in force.
+  explicit scheme(int ss);
+
+  // Number of points.
+  int s;
+  // s rows of `dim` affine coordinates, in input order.
+  matrix P;
+
+  // Made by `bu_mo`, marked by `has_bu_mo`. ------------------------------------------------------
+
+  // True once bu_mo has run. (delta >= 1 says the same, but for a scheme without points.)
+  bool has_bu_mo = false;
+  // The order ideal: s standard monomials, ascending. Repeated points leave monomials 1 at its end.
+  std::vector<monom> O;
+  monom_index O_index;
+  // The border of O, ascending.
+  std::vector<monom> B;
+  monom_index B_index;
+  // The reduced Groebner basis of the vanishing ideal I(X).
+  std::optional<groebner_basis> Ix;
+  // The triangular sequence, until the separators exist: s polynomials as rows over O; their
+  // values at the points as rows of ev_q, 0 before pi[j] and at every pi[k], k < j, 1 at pi[j]; the
+  // pivots pi, a permutation of the points.
+  matrix q;
+  matrix ev_q;
+  std::vector<int> pi;
+  // H(n) and delta H(n) for n = 0 .. s-1.
+  std::vector<int> hilb_fct;
+  std::vector<int> delta_fct;
+  // The largest degree in O less one; delta H at the largest degree; the initial degree of I(X).
+  int sigma = 0;
+  int delta = 0;
+  int alpha = 0;
+
+  // Made by `sep`, which releases q, ev_q and pi. ------------------------------------------------
+
+  // 1 once the separators exist.
+  int sep = 0;
+  // Row i holds, over O, the separator of point i: 1 at point i, 0 at the other points.
+  matrix separator;
+  // 1 if X has the Cayley-Bacharach property, is arithmetically Gorenstein.
+  int is_CB = 0;
+  int is_ar_Go = 0;
+};
+
+// Number of border monomials.
+inline int no_of_border(const scheme& X) { return static_cast<int>(X.B.size()); }
+
+// The Groebner basis element g, 0 <= g < Ix->no_of_gens(). Requires bu_mo.
+polynomial groebner_element(const scheme& X, int g);
+
+// The separator of point i, 0 <= i < s. Requires sep.
+polynomial separator_of(const scheme& X, int i);
+
+// Positions by monomial, -1 for one that is not there. Require bu_mo.
+// In O: of any degree; and with a short cut by degree (the monomial 1 is always at 0).
+int is_el_OO(const scheme& X, const monom& t);
+int is_el_O(const scheme& X, const monom& t);
+// Among the leading monomials of the Groebner basis, and in the border.
+int is_el_G(const scheme& X, const monom& t);
+int is_el_B(const scheme& X, const monom& t);
+
+// Reads s times `dim` coordinates, point by point.
+std::istream& operator>>(std::istream& in, scheme& X);
+
+// Prints one point, row i of P, as <1:2:0>.
+void disp_point(std::ostream& out, const matrix& P, int i);
+
+// Prints the points, with nothing between them.
+void disp_scheme(std::ostream& out, const scheme& X);
+
+}  // namespace zep
