@@ -1,0 +1,26 @@
+// Standard output and standard error as strings.
+#pragma once
+
+#include <iostream>
+#include <sstream>
+#include <string>
+
+namespace zep {
+
+// Keeps what is written to one of the standard streams while it lives.
+class captured {
+ public:
+  explicit captured(std::ostream& stream) : stream_(stream), before_(stream.rdbuf(text_.rdbuf())) {}
+  ~captured() { stream_.rdbuf(before_); }
+  captured(const captured&) = delete;
+  captured& operator=(const captured&) = delete;
+
+  std::string text() const { return text_.str(); }
+
+ private:
+  std::ostringstream text_;
+  std::ostream& stream_;
+  std::streambuf* before_;
+};
+
+}  // namespace zep

@@ -1,0 +1,92 @@
+#include "front/command.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string_view>
+
+#include "tests/front/transcript.h"
+
+namespace zep {
+namespace {
+
+TEST(CommandTable, IsAlphabeticalWithNamesThatFitAWord) {
+  for (std::size_t c = 0; c + 1 < command.size(); ++c) {
+    EXPECT_LT(std::string_view(command[c].name), std::string_view(command[c + 1].name));
+  }
+  for (const command_record& record : command) {
+    EXPECT_LT(std::string_view(record.name).size(), std::size_t{identifier_length});
+  }
+}
+
+TEST(CommandTable, KnowsEveryNumberThatOthersRelyOn) {
+  EXPECT_EQ(find_command("alpha"), 0);
+  EXPECT_EQ(find_command("display"), display_command);
+  EXPECT_EQ(find_command("quit"), 51);
+  EXPECT_EQ(find_command("writelinres"), 66);
+  EXPECT_EQ(find_command("alph"), -1);
+  EXPECT_EQ(find_command(""), -1);
+}
+
+TEST(CommandTable, OnlyDelAndDisplayTakeAnIdentifierOfAnyType) {
+  for (const command_record& record : command) {
+    const std::string_view name = record.name;
+    EXPECT_EQ(record.kind == command_kind::any_identifier, name == "del" || name == "display")
+        << name;
+  }
+}
+
+TEST(CommandTable, CommandsWithoutIdentifierAreTheSettingsAndTheCreatingOnes) {
+  const std::string_view without[] = {"char",      "cyclotom", "cyclotom2", "cyclpol",     "deglex",
+                                      "degrevlex", "del_all",  "dim",       "display_all", "exit",
+                                      "gencycl",   "get",      "help",      "identifiers", "list",
+                                      "quiet",     "quit",     "random",    "random2",     "range",
+                                      "ring",      "root",     "scheme",    "verbose"};
+  for (const command_record& record : command) {
+    const bool listed =
+        std::find(std::begin(without), std::end(without), record.name) != std::end(without);
+    EXPECT_EQ(record.kind == command_kind::nothing, listed) << record.name;
+  }
+}
+
+TEST(CommandTable, AnAnnouncedCommandChecksItsIdentifierAndSaysThatItIsNotThereYet) {
+  for (const command_record& record : command) {
+    if (record.action != nullptr) continue;
+    const std::string name = record.name;
+    EXPECT_EQ(type_in("random A 2\n" + name + " A\n" + name + "\n" + name + " B\n").out,
+              "% " + line + "% " + name + " is not available yet\n% command needs indentifier\n" +
+                  "% indentifier unknown\n% ");
+  }
+}
+
+TEST(Help, ListsSixNamesARowInColumnsOfThirteen) {
+  const std::string out = type_in("help\n").out;
+  EXPECT_EQ(out.substr(0, 42), "% list of commands in alphabetical order :");
+  std::istringstream rows(out.substr(43));
+  std::string row;
+  for (int i = 0; i < 11; ++i) {
+    ASSERT_TRUE(std::getline(rows, row));
+    EXPECT_EQ(row.size(), 6U * 13U);
+    EXPECT_EQ(
+        row.substr(0, 13),
+        std::string(command[static_cast<std::size_t>(6 * i)].name) +
+            std::string(13 - std::string_view(command[static_cast<std::size_t>(6 * i)].name).size(),
+                        ' '));
+  }
+  ASSERT_TRUE(std::getline(rows, row));
+  EXPECT_EQ(row, "writelinres  ");
+  ASSERT_TRUE(std::getline(rows, row));
+  EXPECT_EQ(row + "\n", line);
+}
+
+TEST(Refusals, NameTheOtherProgram) {
+  const std::string roots =
+      "please use 'TORVEN' for computations over the field with n-th roots of unity\n" + line;
+  const std::string cyclotomic = "please use 'TORVEN' for computing cyclotomic schemes\n" + line;
+  EXPECT_EQ(type_in("root\ncyclpol\n").out, "% " + roots + "% " + roots + "% ");
+  EXPECT_EQ(type_in("cyclotom\ncyclotom2\ngencycl\n").out,
+            "% " + cyclotomic + "% " + cyclotomic + "% " + cyclotomic + "% ");
+}
+
+}  // namespace
+}  // namespace zep

@@ -1,0 +1,116 @@
+#include "front/parser.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/front/transcript.h"
+
+namespace zep {
+namespace {
+
+const std::string settings =
+    "dimension         : 3\nring              : F101[XYZT]\nmonomial ordering : deg-rev-lex\n" +
+    line;
+const std::string shown_A = "scheme A:\nscheme consists of 1 points:\n<1:32:36:18>\n" + line;
+
+TEST(Parser, EmptyLinesGetNoPromptOfTheirOwn) {
+  EXPECT_EQ(type_in("\n \n\t\n\n").out, "% ");
+  EXPECT_EQ(type_in("\n\nlist\n\n").out, "% % ");
+}
+
+TEST(Parser, AnUnknownWordIsReported) {
+  EXPECT_EQ(type_in("nonsense\n").out, "% command or indentifier unknown\n% ");
+}
+
+TEST(Parser, TheRestOfALongWordIsReportedAsUnexpected) {
+  EXPECT_EQ(type_in("abcdefghijklmno\n").out,
+            "% command or indentifier unknown\nunexpected 'mno'\n% ");
+}
+
+TEST(Parser, AWordThatGoesOnBehindACommandsNameIsNoCommand) {
+  EXPECT_EQ(type_in("alphabet\n").out, "% command or indentifier unknown\n% ");
+  EXPECT_EQ(type_in("putlinomsyzX A\n").out,
+            "% command or indentifier unknown\nunexpected 'A'\n% ");
+}
+
+TEST(Parser, CommandsAreCaseSensitive) {
+  EXPECT_EQ(type_in("List\n").out, "% command or indentifier unknown\n% ");
+}
+
+TEST(Parser, AnIdentifierTypedAloneIsDisplayed) {
+  EXPECT_EQ(type_in("random A 1\nA\n").out, "% " + line + "% " + shown_A + "% ");
+  EXPECT_EQ(type_in("random A 1\nA x\n").out, "% " + line + "% " + shown_A + "unexpected 'x'\n% ");
+}
+
+TEST(Parser, AnIdentifierOfTwelveCharactersIsFoundInALongerWord) {
+  EXPECT_EQ(type_in("random abcdefghijkl 1\nalpha abcdefghijklm\n").out,
+            "% " + line + "% " + line + "alpha = 1\n" + line + "unexpected 'm'\n% ");
+}
+
+TEST(Parser, ACommandsNameMayNameAnIdentifierButRunsTheCommand) {
+  EXPECT_EQ(type_in("random list 1\nlist\n").out, "% " + line + "% scheme list\n% ");
+}
+
+TEST(Parser, ACommandThatNeedsAnIdentifierSaysSo) {
+  EXPECT_EQ(type_in("display\n").out, "% command needs indentifier\n% ");
+  EXPECT_EQ(type_in("alpha\n").out, "% command needs indentifier\n% ");
+  EXPECT_EQ(type_in("alpha B\n").out, "% indentifier unknown\n% ");
+  EXPECT_EQ(type_in("del B\n").out, "% indentifier unknown\n% ");
+}
+
+TEST(Parser, WhiteSpaceBehindTheCommandMakesTheNextLineGiveTheIdentifier) {
+  EXPECT_EQ(type_in("random A 1\ndel \nA\n").out, "% " + line + "% A deleted\n% ");
+  EXPECT_EQ(type_in("random A 1\ndel\nA\n").out,
+            "% " + line + "% command needs indentifier\n% " + shown_A + "% ");
+}
+
+TEST(Parser, CarriageReturnsAreWhiteSpace) {
+  EXPECT_EQ(type_in("list\r\nring\r\n").out, "% % " + settings + "% ");
+  EXPECT_EQ(type_in("random A 1\r\ndel A\r\n").out, "% " + line + "% A deleted\n% ");
+  // The carriage return is not the line end, so the next word is taken for the identifier.
+  EXPECT_EQ(type_in("del\r\nring\r\n").out, "% indentifier unknown\n% ");
+}
+
+TEST(Parser, WhatIsLeftOfALineIsReportedFromItsFirstCharacterOn) {
+  EXPECT_EQ(type_in("list \t x  y \n").out, "% unexpected 'x  y '\n% ");
+  EXPECT_EQ(type_in("list \v\f\t\n").out, "% % ");
+  EXPECT_EQ(type_in("list '\n").out, "% unexpected '''\n% ");
+}
+
+TEST(Parser, BytesOfEveryKindAreReportedAsTheyAre) {
+  const std::string bytes("\x01\xff\0z", 4);
+  EXPECT_EQ(type_in("list " + bytes + "\n").out, "% unexpected '" + bytes + "'\n% ");
+  EXPECT_EQ(type_in(bytes + "\n").out, "% command or indentifier unknown\n% ");
+}
+
+TEST(Parser, QuitAndExitEndTheLoopAfterTheRestOfTheirLine) {
+  EXPECT_EQ(type_in("quit\nlist\n").out, "% ");
+  EXPECT_EQ(type_in("exit\nlist\n").out, "% ");
+  EXPECT_EQ(type_in("quit now\nlist\n").out, "% unexpected 'now'\n");
+}
+
+TEST(Parser, TheEndOfTheInputEndsTheLoop) {
+  EXPECT_EQ(type_in("").out, "% ");
+  EXPECT_EQ(type_in("  ").out, "% ");
+}
+
+TEST(Parser, ALastLineWithoutLineEndIsCarriedOut) {
+  EXPECT_EQ(type_in("ring").out, "% " + settings + "% ");
+  EXPECT_EQ(type_in("ring x").out, "% " + settings + "unexpected 'x'\n% ");
+  EXPECT_EQ(type_in("random A 1\nA").out, "% " + line + "% " + shown_A + "% ");
+  EXPECT_EQ(type_in("random A 1\ndel A").out, "% " + line + "% A deleted\n% ");
+  EXPECT_EQ(type_in("quit").out, "% ");
+}
+
+TEST(Parser, ACommandThatTheEndOfTheInputCutsOffIsDropped) {
+  EXPECT_EQ(type_in("del").out, "% ");
+  EXPECT_EQ(type_in("del ").out, "% ");
+  EXPECT_EQ(type_in("random A 1\nalpha \n\n").out, "% " + line + "% ");
+}
+
+TEST(Parser, AVeryLongLineIsReportedWhole) {
+  const std::string rest(1 << 20, 'x');
+  EXPECT_EQ(type_in("list " + rest + "\n").out, "% unexpected '" + rest + "'\n% ");
+}
+
+}  // namespace
+}  // namespace zep
