@@ -1,0 +1,177 @@
+#include "scheme/display.h"
+
+#include <gtest/gtest.h>
+
+#include "scheme/bu_mo.h"
+#include "scheme/general_position.h"
+#include "scheme/gorenstein.h"
+#include "scheme/ideal.h"
+#include "scheme/invariants.h"
+#include "scheme/separators.h"
+#include "tests/scheme/point_sets.h"
+
+namespace zep {
+namespace {
+
+using display = void (*)(std::ostream&, scheme&);
+
+std::string shown(display show, scheme& X) {
+  const silence quiet;
+  std::ostringstream out;
+  show(out, X);
+  return out.str();
+}
+
+// The same on a set on which nothing has been computed.
+std::string shown(display show, const std::vector<coordinates>& points) {
+  scheme X = make_set(points);
+  return shown(show, X);
+}
+
+const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
+
+TEST(Invariants, ComputeWhatIsMissingAndEndWithLine) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(shown(alpha_X, triangle), "alpha = 2\n" + line);
+  EXPECT_EQ(shown(sigma_X, triangle), "sigma = 0\n" + line);
+  EXPECT_EQ(shown(delta_X, triangle), "delta = 2\n" + line);
+  EXPECT_EQ(shown(hilb_fct, triangle), "H(n) = 1 3 \n" + line);
+  EXPECT_EQ(shown(delta_fct, triangle), "delta H(n) = 1 2 \n" + line);
+  EXPECT_EQ(shown(order_ideal, triangle), "order ideal of X : \n1, Y, X\n" + line);
+  EXPECT_EQ(shown(groebner, triangle),
+            "Groebner basis of I(X) : \ng1 = Y^2 - Y\ng2 = XY\ng3 = X^2 - X\n" + line);
+  EXPECT_EQ(shown(is_CB, triangle), "scheme has Cayley-Bacharach property\n" + line);
+}
+
+TEST(Invariants, OfOnePoint) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(shown(sigma_X, {{3, 4}}), "sigma = -1\n" + line);
+  EXPECT_EQ(shown(hilb_fct, {{3, 4}}), "H(n) = 1 \n" + line);
+  EXPECT_EQ(shown(delta_fct, {{3, 4}}), "delta H(n) = 1 \n" + line);
+}
+
+TEST(Invariants, OfNoPointsAreHeadingsWithNothingAndZeros) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(shown(alpha_X, {}), "alpha = 0\n" + line);
+  EXPECT_EQ(shown(sigma_X, {}), "sigma = 0\n" + line);
+  EXPECT_EQ(shown(delta_X, {}), "delta = 0\n" + line);
+  EXPECT_EQ(shown(hilb_fct, {}), "H(n) = 0 0 \n" + line);
+  EXPECT_EQ(shown(delta_fct, {}), "delta H(n) = 0 0 \n" + line);
+  EXPECT_EQ(shown(order_ideal, {}), "order ideal of X : \n\n" + line);
+  EXPECT_EQ(shown(groebner, {}), "Groebner basis of I(X) : \n" + line);
+  EXPECT_EQ(shown(lingenpos, {}), "scheme is in linearly general position\n" + line);
+}
+
+TEST(Invariants, TheCayleyBacharachVerdictMakesTheSeparatorsUnlessItIsKnown) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {1, 0}, {2, 0}, {0, 1}});
+  EXPECT_EQ(shown(is_CB, X), "scheme has NOT Cayley-Bacharach property\n" + line);
+  EXPECT_EQ(X.sep, 1);
+  scheme Y = make_set(triangle);
+  Y.is_CB = 1;
+  EXPECT_EQ(shown(is_CB, Y), "scheme has Cayley-Bacharach property\n" + line);
+  EXPECT_EQ(Y.sep, 0);
+}
+
+TEST(Gorenstein, IsAnsweredFromTheSeparators) {
+  const ring_in_force ring(101, 2);
+  for (const bool square : {true, false}) {
+    scheme X = make_set(triangle);
+    if (square) X = make_set({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
+    {
+      const silence quiet;
+      need_sep(X);
+    }
+    EXPECT_EQ(shown(is_ar_Go, X), (square ? "scheme is arithmetically Gorenstein\n"
+                                          : "scheme is NOT arithmetically Gorenstein\n") +
+                                      line);
+  }
+}
+
+TEST(Record, GrowsWithTheResults) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set(triangle);
+  const auto record = [&] {
+    const silence quiet;
+    std::ostringstream out;
+    out << X;
+    EXPECT_EQ(quiet.out.text(), "");
+    return out.str();
+  };
+  const std::string points = "scheme consists of 3 points:\n<1:0:0><1:1:0><1:0:1>\n" + line;
+  EXPECT_EQ(record(), points);
+  const std::string invariants = "order ideal of X : \n1, Y, X\n" + line + "H(n) = 1 3 \n" + line +
+                                 "delta H(n) = 1 2 \n" + line + "sigma = 0\n" + line +
+                                 "delta = 2\n" + line + "alpha = 2\n" + line;
+  {
+    const silence quiet;
+    need_bu_mo(X);
+  }
+  EXPECT_EQ(record(), points + invariants);
+  {
+    const silence quiet;
+    need_sep(X);
+  }
+  EXPECT_EQ(record(), points + invariants + "scheme has Cayley-Bacharach property\n" + line +
+                          "scheme is NOT arithmetically Gorenstein\n" + line);
+}
+
+TEST(Ideal, PrintsAGeneratorALine) {
+  const ring_in_force ring(101, 2);
+  ideal I(2);
+  I.gen[1] = polynomial(variable(0));
+  std::ostringstream out;
+  out << I;
+  EXPECT_EQ(I.no_of_gens(), 2);
+  EXPECT_EQ(out.str(), " 0\nX\n");
+}
+
+// The rule straight away: some choice of min(s, n + 1) points has a non-zero determinant.
+bool plainly_independent_subset(const std::vector<coordinates>& points) {
+  const std::size_t size = std::min(points.size(), at(dim + 1));
+  std::vector<bool> chosen(points.size(), false);
+  std::fill(chosen.begin(), chosen.begin() + static_cast<std::ptrdiff_t>(size), true);
+  do {
+    plain_echelon rows;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+      if (!chosen[i]) continue;
+      coordinates row = points[i];
+      row.insert(row.begin(), 1);
+      rows.add(row);
+    }
+    if (rows.rank() == static_cast<int>(size)) return true;
+  } while (std::prev_permutation(chosen.begin(), chosen.end()));
+  return false;
+}
+
+TEST(GeneralPosition, HoldsWhenOneSubsetIsIndependent) {
+  const ring_in_force ring(101, 3);
+  const std::string yes = "scheme is in linearly general position\n" + line;
+  const std::string no = "scheme is not in linearly general position\n" + line;
+  EXPECT_EQ(shown(lingenpos, {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}}), yes);
+  EXPECT_EQ(shown(lingenpos, {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}}), no);
+  EXPECT_EQ(shown(lingenpos, {{5, 5, 5}}), yes);
+  EXPECT_EQ(shown(lingenpos, {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {0, 1, 0}, {0, 0, 1}, {1, 0, 0}}),
+            yes);
+}
+
+TEST(GeneralPosition, AgreesWithTheWalkOverAllSubsets) {
+  std::mt19937 random(9);
+  int yes = 0;
+  int no = 0;
+  for (int round = 0; round < 200; ++round) {
+    const ring_in_force ring(round % 2 == 0 ? 2 : 3, 2 + round % 3);
+    std::vector<coordinates> points = random_points(1 + round % 6, random);
+    if (round % 5 < 2) {
+      for (coordinates& point : points) point.back() = point.front();
+    }
+    const bool expected = plainly_independent_subset(points);
+    EXPECT_EQ(has_independent_subset(make_set(points)), expected);
+    ++(expected ? yes : no);
+  }
+  EXPECT_GT(yes, 10);
+  EXPECT_GT(no, 10);
+}
+
+}  // namespace
+}  // namespace zep

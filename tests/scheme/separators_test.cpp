@@ -1,0 +1,131 @@
+#include "scheme/separators.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/scheme/point_sets.h"
+
+namespace zep {
+namespace {
+
+std::string printed_separators(scheme& X) {
+  std::ostringstream out;
+  separators(out, X);
+  return out.str();
+}
+
+TEST(Separators, OfOnePointIsTheConstantOne) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{5, 6, 7}});
+  const silence quiet;
+  EXPECT_EQ(printed_separators(X), "separators of X : \nf1 = 1\n" + line);
+}
+
+TEST(Separators, OfThreePointsOfTheTriangle) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
+  const silence quiet;
+  EXPECT_EQ(printed_separators(X), "separators of X : \nf1 = - X - Y + 1\nf2 = X\nf3 = Y\n" + line);
+}
+
+TEST(Separators, AreMadeOnceWithLineInPlaceOfAnyOtherOutput) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
+  const silence loud;
+  const std::string first = printed_separators(X);
+  EXPECT_EQ(printed_separators(X), first);
+  EXPECT_EQ(loud.out.text(), line + line);
+  EXPECT_EQ(loud.err.text(),
+            "calculating triangular sequence ...\n[3][2][1]\n"
+            "calculating biorthogonal sequence ...\n[3][2][1]\n");
+}
+
+TEST(Separators, LeaveStandardErrorAloneWhenQuiet) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {1, 0}});
+  const silence quiet;
+  verbose = 0;
+  need_sep(X);
+  verbose = 1;
+  EXPECT_EQ(quiet.out.text(), line + line);
+  EXPECT_EQ(quiet.err.text(), "");
+}
+
+TEST(Separators, ReplaceTheTriangularSequence) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {1, 0}});
+  const silence quiet;
+  need_sep(X);
+  EXPECT_EQ(X.sep, 1);
+  EXPECT_EQ(X.q.rows(), 0);
+  EXPECT_EQ(X.ev_q.rows(), 0);
+  EXPECT_TRUE(X.pi.empty());
+}
+
+TEST(Separators, BreakLongLinesBehindTheWidthOfTheLabel) {
+  const ring_in_force ring(101, 3);
+  std::mt19937 random(3);
+  scheme X = make_set(random_points(12, random));
+  const silence quiet;
+  std::istringstream text(printed_separators(X));
+  std::string row;
+  bool broken = false;
+  while (std::getline(text, row)) {
+    // A line ends before column LL - 1; the separator line is the longest of all.
+    EXPECT_LE(row.size(), 79U);
+    broken = broken || row.starts_with(" + ") || row.starts_with(" - ");
+  }
+  EXPECT_TRUE(broken);
+}
+
+TEST(Separators, OfNoPointsAreAnEmptyList) {
+  const ring_in_force ring(101, 3);
+  scheme X(0);
+  const silence quiet;
+  EXPECT_EQ(printed_separators(X), "separators of X : \n" + line);
+}
+
+TEST(Separators, OfRepeatedPointsAreMeaninglessButThere) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{3, 4}, {3, 4}, {1, 1}});
+  const silence quiet;
+  EXPECT_EQ(printed_separators(X).substr(0, 19), "separators of X : \n");
+  EXPECT_EQ(X.separator.rows(), 3);
+}
+
+class SeparatorsProperty : public ::testing::TestWithParam<int> {};
+
+TEST_P(SeparatorsProperty, AreOneAtTheirPointAndZeroAtTheOthers) {
+  std::mt19937 random(11);
+  for (int n = 2; n <= 6; ++n) {
+    for (const term_order order : {term_order::deglex, term_order::degrevlex}) {
+      const ring_in_force ring(GetParam(), n, order);
+      const std::vector<coordinates> points = random_points(10 + 4 * n, random);
+      scheme X = make_set(points);
+      const silence quiet;
+      need_sep(X);
+      for (int i = 0; i < X.s; ++i) {
+        const polynomial f = separator_of(X, i);
+        for (int k = 0; k < X.s; ++k) EXPECT_EQ(value_at(f, points[at(k)]), i == k ? 1 : 0);
+        for (int k = 0; k < f.no_of_monoms(); ++k) EXPECT_GE(is_el_OO(X, f.term(k)), 0);
+      }
+    }
+  }
+}
+
+TEST_P(SeparatorsProperty, FollowTheirPointsIntoAnotherOrder) {
+  std::mt19937 random(12);
+  const ring_in_force ring(GetParam(), 3);
+  std::vector<coordinates> points = random_points(25, random);
+  scheme X = make_set(points);
+  std::reverse(points.begin(), points.end());
+  scheme Y = make_set(points);
+  const silence quiet;
+  need_sep(X);
+  need_sep(Y);
+  for (int i = 0; i < X.s; ++i) EXPECT_EQ(separator_of(X, i), separator_of(Y, X.s - 1 - i));
+}
+
+INSTANTIATE_TEST_SUITE_P(Fields, SeparatorsProperty, ::testing::Values(2, 3, 101, 251));
+
+}  // namespace
+}  // namespace zep
