@@ -28,13 +28,15 @@ void Fp::invert() {
 }
 
 Fp pow(Fp x, int n) {
+  unsigned e = n < 0 ? 0U - static_cast<unsigned>(n) : static_cast<unsigned>(n);
+  // The first power is x as it is, reduced or not.
+  if (e == 1) return x;
   Fp power(1);
-  for (unsigned e = n < 0 ? 0U - static_cast<unsigned>(n) : static_cast<unsigned>(n); e != 0;
-       e >>= 1) {
-    if (e & 1U) power *= x;
+  for (; e > 1; e >>= 1U) {
+    if ((e & 1U) != 0) power *= x;
     x *= x;
   }
-  return power;
+  return e == 1 ? power * x : power;
 }
 
 int symmetric(Fp x) { return x.value() > Fp::prime / 2 ? x.value() - Fp::prime : x.value(); }
@@ -50,7 +52,10 @@ std::ostream& operator<<(std::ostream& out, Fp x) { return out << symmetric(x); 
 
 std::istream& operator>>(std::istream& in, Fp& x) {
   Rational r;
-  if (!read_rational(in, r)) return in;
+  if (!read_rational(in, r)) {
+    x = Fp(0);
+    return in;
+  }
   const auto p = static_cast<unsigned long>(Fp::prime);
   // mpz_fdiv_ui rounds down, so a negative numerator gives its residue in 0 .. p-1.
   x = Fp(static_cast<int>(mpz_fdiv_ui(r.get_den_mpz_t(), p)));

@@ -10,7 +10,7 @@ namespace zep {
 
 // An element of F_p, `prime` = p. The int is normally the representative 0 .. p-1. Three operations
 // hand on other values, and nothing corrects them: construction stores what it is given, assignment
-// of an int at most -p stays negative, and the negative of 0 is p (it is not 0, has sign -1, and
+// of an int below -p may stay negative, and the negative of 0 is p (it is not 0, has sign -1, and
 // prints as 0).
 class Fp {
  public:
@@ -21,7 +21,7 @@ class Fp {
   Fp() = default;
   explicit Fp(int n) : q_(n) {}
   Fp& operator=(int n) {
-    q_ = (prime + n) % prime;
+    q_ = static_cast<int>((static_cast<long long>(prime) + n) % prime);
     return *this;
   }
 
@@ -81,7 +81,8 @@ Fp abs(Fp x);
 // Prints the symmetric representative.
 std::ostream& operator<<(std::ostream& out, Fp x);
 
-// Reads a rational number (see reading.h) and reduces it to 0 .. p-1; fails as read_rational does.
+// Reads a rational number (see reading.h) and reduces it to 0 .. p-1; fails as read_rational does,
+// with 0.
 // A denominator without an inverse is a division by zero.
 std::istream& operator>>(std::istream& in, Fp& x);
 

@@ -16,6 +16,8 @@ class Fp8 {
   using table = std::uint8_t[256][256];
 
   static int prime;
+  // floor(2^16 / prime), for reductions by multiplication over whole rows.
+  static std::uint16_t reciprocal;
   static table add, sub, mul, div;
 
   // Fills the tables for the current `prime` (2 .. 251) and makes it the prime of Fp too. Elements
@@ -79,7 +81,7 @@ int len(Fp8 a);
 // Prints the symmetric representative, as Fp does.
 std::ostream& operator<<(std::ostream& out, Fp8 a);
 
-// Reads a rational number modulo p, as Fp does.
+// Reads a rational number modulo p, as Fp does; 0 when that fails.
 std::istream& operator>>(std::istream& in, Fp8& a);
 
 }  // namespace zep

@@ -7,7 +7,7 @@
 #include <list>
 #include <utility>
 
-#include "arith/monom.h"
+#include "arith/ordering.h"
 
 namespace zep {
 

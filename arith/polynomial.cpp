@@ -13,7 +13,7 @@ namespace zep {
 
 namespace {
 
-// a + b or a - b, merged under the affine order.
+// a + b or a - b for b not zero, merged under the affine order.
 template <class Sign>
 void merge(std::vector<monom>& term, std::vector<Fp8>& coef, const polynomial& a,
            const polynomial& b, Sign signed_coef) {
@@ -46,7 +46,6 @@ void merge(std::vector<monom>& term, std::vector<Fp8>& coef, const polynomial& a
 
 template <class Sign>
 polynomial merged(const polynomial& a, const polynomial& b, Sign signed_coef) {
-  if (sign(b) == 0) return a;
   std::vector<monom> term;
   std::vector<Fp8> coef;
   if (sign(a) == 0) {
@@ -87,11 +86,21 @@ polynomial::polynomial(std::vector<monom> terms, std::vector<Fp8> coefs)
   if (term_.empty()) *this = polynomial(0);
 }
 
+polynomial& polynomial::operator=(int c) {
+  term_.resize(1);
+  term_[0] = monom::exponent{0};
+  coef_.resize(1);
+  coef_[0] = c;
+  return *this;
+}
+
 polynomial& polynomial::operator+=(const polynomial& b) {
+  if (sign(b) == 0) return *this;
   return *this = merged(*this, b, [](Fp8 c) { return c; });
 }
 
 polynomial& polynomial::operator-=(const polynomial& b) {
+  if (sign(b) == 0) return *this;
   return *this = merged(*this, b, [](Fp8 c) { return -c; });
 }
 
@@ -100,6 +109,10 @@ polynomial& polynomial::operator*=(Fp8 c) {
   for (Fp8& coef : coef_) coef *= c;
   drop_zero_terms();
   return *this;
+}
+
+void polynomial::negate() {
+  for (Fp8& coef : coef_) coef = -coef;
 }
 
 void polynomial::drop_zero_terms() {
@@ -126,7 +139,10 @@ polynomial& polynomial::operator*=(const monom& m) {
 
 polynomial operator+(const polynomial& a) { return a; }
 
-polynomial operator-(polynomial a) { return std::move(a *= -Fp8(1)); }
+polynomial operator-(polynomial a) {
+  a.negate();
+  return a;
+}
 
 polynomial operator+(polynomial a, const polynomial& b) { return std::move(a += b); }
 

@@ -14,6 +14,8 @@ namespace zep {
 //
 // Affine polynomials have affine terms; `hom` and products with projective monomials make
 // projective ones. Sums compare the affine parts of terms only, in both kinds.
+//
+// A polynomial that was moved from may only be assigned to or destroyed.
 class polynomial {
  public:
   // c * 1, with c reduced as Fp8's assignment does.
@@ -25,7 +27,8 @@ class polynomial {
   // The given terms, which must be descending with non-zero coefficients; none for zero.
   polynomial(std::vector<monom> terms, std::vector<Fp8> coefs);
 
-  polynomial& operator=(int c) { return *this = polynomial(c); }
+  // Becomes c * 1; the monomial has as many slots as the leading one before.
+  polynomial& operator=(int c);
   polynomial& operator=(const monom& m) { return *this = polynomial(m); }
 
   int no_of_monoms() const { return static_cast<int>(term_.size()); }
@@ -36,6 +39,8 @@ class polynomial {
   polynomial& operator+=(const polynomial& b);
   polynomial& operator-=(const polynomial& b);
   polynomial& operator*=(Fp8 c);
+  // Negates every coefficient.
+  void negate();
   // Multiplies every term in place; the order of terms is that of the factor.
   polynomial& operator*=(const monom& m);
 

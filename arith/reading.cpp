@@ -54,6 +54,7 @@ bool take_number(std::istream& in, std::string& text) {
 }  // namespace
 
 std::istream& read_integer(std::istream& in, int& n) {
+  if (!in) return in;
   std::string text;
   if (!take_number(in, text)) return stopped(in);
   const auto [rest, fault] = std::from_chars(text.data(), text.data() + text.size(), n);
@@ -61,6 +62,7 @@ std::istream& read_integer(std::istream& in, int& n) {
 }
 
 std::istream& read_rational(std::istream& in, Rational& r) {
+  if (!in) return in;
   std::string text;
   if (!take_number(in, text)) return stopped(in);
   r = Integer(text, 10);

@@ -1,10 +1,11 @@
 // Numbers as they are typed. One place knows their syntax.
 //
-// Every function skips leading white space and leaves the stream
+// Every function skips leading white space and leaves a stream that was good
 //   good                     a number was read, even when the input ends right behind it;
 //   failed, not at its end   malformed: what fitted (sign, digits, slash) has been taken, the first
 //                            character that does not fit is next;
 //   failed and at its end    the input ended before the number was complete.
+// A stream that had failed before is left alone.
 #pragma once
 
 #include <gmpxx.h>

@@ -162,6 +162,7 @@ int find_command(const std::string& name) {
 }
 
 void execute(session& z, int c, int identifier) {
+  if (c < 0 || c >= no_of_commands) return;
   const command_record& todo = command[static_cast<std::size_t>(c)];
   if (!accepts(z, todo.kind, identifier)) return;
   if (todo.action == nullptr) {

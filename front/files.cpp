@@ -12,6 +12,7 @@ std::string ask_filename(input& in) {
 }
 
 std::ifstream open_for_reading(const std::string& name) {
+  if (name.find('\0') != std::string::npos) return {};
   std::error_code ignored;
   if (std::filesystem::is_directory(name, ignored)) return {};
   return std::ifstream(name);

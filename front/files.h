@@ -12,7 +12,7 @@ namespace zep {
 std::string ask_filename(input& in);
 
 // Opens a file for reading; the stream is not open when that can't be done. A folder can't be
-// opened.
+// opened, nor can a name with a NUL, which the system would take for its end.
 std::ifstream open_for_reading(const std::string& name);
 
 }  // namespace zep

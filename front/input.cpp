@@ -1,5 +1,8 @@
 #include "front/input.h"
 
+#include <istream>
+#include <ostream>
+
 #include "arith/reading.h"
 
 namespace zep {
@@ -73,13 +76,18 @@ bool input::at_line_end() {
   return c == '\n';
 }
 
-std::string input::rest_of_line() {
-  std::string text;
-  for (int c = peek(); c != end && c != '\n'; c = peek()) {
-    if (!text.empty() || !is_space(c)) text += static_cast<char>(c);
-    in_.get();
-  }
-  return text;
+bool input::line_goes_on() {
+  int c = peek();
+  for (; is_space(c) && c != '\n'; c = peek()) in_.get();
+  return c != end && c != '\n';
+}
+
+void input::copy_rest_of_line(std::ostream& out) {
+  for (int c = peek(); c != end && c != '\n'; c = peek()) out.put(static_cast<char>(in_.get()));
+}
+
+void input::drop_rest_of_line() {
+  for (int c = peek(); c != end && c != '\n'; c = peek()) in_.get();
 }
 
 }  // namespace zep

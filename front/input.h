@@ -1,7 +1,7 @@
 // What the user types: the one place that reads words and numbers and knows malformed from ended.
 #pragma once
 
-#include <istream>
+#include <iosfwd>
 #include <string>
 
 #include "arith/Fp8.h"
@@ -41,9 +41,12 @@ class input {
   // True when the next character is a line end. Throws end_of_input if there is none.
   bool at_line_end();
 
-  // Takes the rest of the line but not its line end, and returns it without the white space that it
-  // begins with.
-  std::string rest_of_line();
+  // Skips white space up to the line end. True when something else comes first.
+  bool line_goes_on();
+
+  // Takes the rest of the line, but not its line end, and hands it on to `out`, or drops it.
+  void copy_rest_of_line(std::ostream& out);
+  void drop_rest_of_line();
 
  private:
   int peek();

@@ -7,6 +7,7 @@
 #include "front/parser.h"
 #include "front/settings.h"
 #include "front/standard_input.h"
+#include "front/standard_streams.h"
 
 namespace {
 
@@ -25,6 +26,7 @@ void run() {
 }  // namespace
 
 int main() {
+  zep::open_closed_descriptors();
   std::ios::sync_with_stdio(false);
   zep::install_mem_warn();
   try {

@@ -34,8 +34,10 @@ void carry_out(session& z, const std::string& word) {
 }
 
 void report_rest_of_line(session& z) {
-  const std::string rest = z.typed.rest_of_line();
-  if (!rest.empty()) std::cout << "unexpected '" << rest << "'\n";
+  if (!z.typed.line_goes_on()) return;
+  std::cout << "unexpected '";
+  z.typed.copy_rest_of_line(std::cout);
+  std::cout << "'\n";
 }
 
 }  // namespace

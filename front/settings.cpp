@@ -44,7 +44,7 @@ int read_border(session& z) {
   try {
     return std::min(z.typed.integer(), Fp8::prime - 1);
   } catch (const malformed_number&) {
-    z.typed.rest_of_line();
+    z.typed.drop_rest_of_line();
     return z.range1;
   }
 }

@@ -1,5 +1,6 @@
 #include "front/standard_input.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -12,11 +13,17 @@ namespace {
 constexpr std::size_t buffer_size = 1U << 16U;
 
 ssize_t read_some(char* buffer, std::size_t size) {
-  ssize_t count = 0;
-  do {
-    count = ::read(STDIN_FILENO, buffer, size);
-  } while (count < 0 && errno == EINTR);
-  return count;
+  while (true) {
+    const ssize_t count = ::read(STDIN_FILENO, buffer, size);
+    if (count >= 0) return count;
+    if (errno == EAGAIN || errno == EWOULDBLOCK) {
+      // Whoever handed the descriptor over does not block on it; we do.
+      pollfd waiting{STDIN_FILENO, POLLIN, 0};
+      ::poll(&waiting, 1, -1);
+    } else if (errno != EINTR) {
+      return count;
+    }
+  }
 }
 
 }  // namespace

@@ -18,6 +18,8 @@ class equal_rows {
  public:
   // Looks at the rows of m; m is not kept.
   explicit equal_rows(const matrix& m);
+  equal_rows(const equal_rows&) = delete;
+  equal_rows& operator=(const equal_rows&) = delete;
 
   // The pair i < k of equal rows with the smallest i, and with the smallest k for that i.
   std::optional<std::pair<int, int>> first_pair() const;

@@ -23,10 +23,12 @@ class gauss_jordan {
     int free_unknowns = a_.cols();
     for (int k = 0; k < steps && find_pivot(k); ++k) {
       if (--free_unknowns == 0) return 0;
+      work_on_columns_from(k);
       normalise(k);
       for (int i = k + 1; i < a_.rows(); ++i) subtract(i, k);
     }
     const int rank = a_.cols() - free_unknowns;
+    work_on_columns_from(rank);
     for (int k = rank - 2; k >= 0; --k) {
       for (int j = k + 1; j < rank; ++j) subtract(k, j);
     }
@@ -37,7 +39,6 @@ class gauss_jordan {
   int& column(int k) { return c_[static_cast<std::size_t>(k)]; }
   int& row_index(int k) { return r_[static_cast<std::size_t>(k)]; }
   Fp8* row(int k) { return a_[row_index(k)]; }
-  std::size_t width() const { return static_cast<std::size_t>(a_.cols()); }
 
   // Brings a non-zero entry to position (k, k): a row from below, or else, with another column.
   bool find_pivot(int k) {
@@ -54,17 +55,25 @@ class gauss_jordan {
     }
   }
 
+  // Lets `normalise` and `subtract` work on the shortest stretch of a row that holds the columns
+  // from position k on. The other columns in it do not matter: there the pivot row is zero, or the
+  // entry is set by hand.
+  void work_on_columns_from(int k) {
+    const auto [lowest, highest] = std::minmax_element(c_.begin() + k, c_.end());
+    begin_ = lowest == c_.end() ? 0 : *lowest;
+    length_ = lowest == c_.end() ? 0 : static_cast<std::size_t>(*highest - *lowest) + 1;
+  }
+
   void normalise(int k) {
     Fp8& pivot = row(k)[column(k)];
-    scale(row(k), Fp8(1) / pivot, width());
+    scale(row(k) + begin_, Fp8(1) / pivot, length_);
     pivot = 1;
   }
 
-  // Clears the entry of row i in the pivot column k. Whole rows, although only the columns behind
-  // k can change: row k is zero in the earlier ones.
+  // Clears the entry of row i in the pivot column k.
   void subtract(int i, int k) {
     Fp8& entry = row(i)[column(k)];
-    axpy(row(i), row(k), -entry, width());
+    axpy(row(i) + begin_, row(k) + begin_, -entry, length_);
     entry = 0;
   }
 
@@ -72,6 +81,8 @@ class gauss_jordan {
   std::span<int> c_;
   std::span<int> r_;
   int deferred_ = 0;
+  int begin_ = 0;
+  std::size_t length_ = 0;
 };
 
 std::string blanks(int n) { return std::string(static_cast<std::size_t>(n), ' '); }
@@ -128,7 +139,8 @@ Fp8 matrix::minor(std::span<const int> col, std::span<const int> rr) const {
     const Fp8 pivot = row(k)[k];
     determinant *= pivot;
     for (int i = k + 1; i < n; ++i) {
-      axpy(row(i) + k, row(k) + k, -(row(i)[k] / pivot), static_cast<std::size_t>(n - k));
+      axpy(row(i) + k + 1, row(k) + k + 1, -(row(i)[k] / pivot),
+           static_cast<std::size_t>(n - k - 1));
     }
   }
   return determinant;
@@ -149,8 +161,8 @@ int rank(matrix m) {
 }
 
 std::ostream& operator<<(std::ostream& out, const matrix& m) {
-  std::vector<int> widths = identity_order(m.cols());
-  for (int& j : widths) j = width_of_column(m, j);
+  std::vector<int> widths(static_cast<std::size_t>(m.cols()));
+  for (int j = 0; j < m.cols(); ++j) widths[static_cast<std::size_t>(j)] = width_of_column(m, j);
   for (int i = 0; i < m.rows(); ++i) {
     if (i > 0) out << empty_row(widths);
     print_row(out, m, i, widths);
@@ -160,7 +172,7 @@ std::ostream& operator<<(std::ostream& out, const matrix& m) {
 
 std::istream& operator>>(std::istream& in, matrix& m) {
   for (int i = 0; i < m.rows(); ++i) {
-    for (int j = 0; j < m.cols() && in; ++j) in >> m[i][j];
+    for (int j = 0; j < m.cols(); ++j) in >> m[i][j];
   }
   return in;
 }

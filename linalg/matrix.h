@@ -45,7 +45,8 @@ class matrix {
   // to the identity; they are permuted. For d > 0 and rank = cols - d the rows r[0] .. r[rank-1]
   // hold the identity in the columns c[0] .. c[rank-1], so that the unknown c[k] is minus the sum
   // over l >= rank of entry (r[k], c[l]) times the free unknown c[l].
-  // With d = 0 the elimination stops at the last pivot, and the matrix is left partly reduced.
+  // Without a solution but zero the elimination stops at the last pivot and leaves the matrix
+  // partly reduced.
   int solve(std::span<int> c, std::span<int> r);
 
  private:

@@ -18,16 +18,13 @@ static_assert((largest_prime - 1) + (largest_prime - 1) * (largest_prime - 1) <=
 // floor(x / p) or one less for x < 2^16, so one conditional subtraction is left; as an unsigned
 // minimum it needs no branch, since a negative difference wraps to a large number.
 //
-// The loops are functions of their own that take 16-bit arguments: inlined, the compiler sees the
-// wider computation of the reciprocal and spreads the lanes to 32 bits, at a third of the speed.
+// The loops are functions of their own that take 16-bit arguments: inlined, the compiler may see
+// that p is kept in an int and spread the lanes to 32 bits, at a third of the speed.
 struct modulus {
   lane p;
   lane reciprocal;
 
-  static modulus current() {
-    const auto p = static_cast<unsigned>(Fp8::prime);
-    return {static_cast<lane>(p), static_cast<lane>(0x10000U / p)};
-  }
+  static modulus current() { return {static_cast<lane>(Fp8::prime), Fp8::reciprocal}; }
 };
 
 inline lane reduce(lane x, lane p, lane reciprocal) {

@@ -25,8 +25,10 @@ int is_el_OO(const scheme& X, const monom& t) { return X.O_index.find(t); }
 int is_el_O(const scheme& X, const monom& t) {
   const int degree = t.tot_deg();
   if (degree == 0) return 0;
-  if (degree > X.sigma + 1) return -1;
-  return X.O_index.find(t);
+  if (degree < 0 || degree > X.sigma + 1) return -1;
+  const int i = X.O_index.find(t);
+  const std::size_t d = static_cast<std::size_t>(degree);
+  return i >= X.hilb_fct[d - 1] && i < X.hilb_fct[d] ? i : -1;
 }
 
 int is_el_G(const scheme& X, const monom& t) { return X.Ix->find(t); }

@@ -28,6 +28,16 @@ TEST(CommandTable, KnowsEveryNumberThatOthersRelyOn) {
   EXPECT_EQ(find_command(""), -1);
 }
 
+TEST(CommandTable, ANumberOutsideDoesNothing) {
+  std::istringstream nothing;
+  session z(nothing);
+  const captured out(std::cout);
+  execute(z, no_of_commands, no_identifier);
+  execute(z, -1, no_identifier);
+  EXPECT_EQ(out.text(), "");
+  EXPECT_FALSE(z.quit);
+}
+
 TEST(CommandTable, OnlyDelAndDisplayTakeAnIdentifierOfAnyType) {
   for (const command_record& record : command) {
     const std::string_view name = record.name;

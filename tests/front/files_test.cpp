@@ -25,5 +25,9 @@ TEST(Files, AFolderAndAMissingFileCantBeOpened) {
   EXPECT_TRUE(open_for_reading("/dev/null").is_open());
 }
 
+TEST(Files, ANameIsNotCutAtANul) {
+  EXPECT_FALSE(open_for_reading(std::string("/dev/null\0more", 14)).is_open());
+}
+
 }  // namespace
 }  // namespace zep

@@ -100,11 +100,25 @@ TEST(Input, TheLineEndIsSeenButNotTaken) {
 TEST(Input, TheRestOfALineBeginsWithItsFirstCharacterThatIsNotWhiteSpace) {
   std::istringstream typed(" \t\r x  y \nz");
   input in(typed);
-  EXPECT_EQ(in.rest_of_line(), "x  y ");
+  std::ostringstream rest;
+  EXPECT_TRUE(in.line_goes_on());
+  in.copy_rest_of_line(rest);
+  EXPECT_EQ(rest.str(), "x  y ");
   EXPECT_TRUE(in.at_line_end());
-  EXPECT_EQ(in.rest_of_line(), "");
+  EXPECT_FALSE(in.line_goes_on());
   EXPECT_EQ(in.word(), "z");
-  EXPECT_EQ(in.rest_of_line(), "");
+  EXPECT_FALSE(in.line_goes_on());
+}
+
+TEST(Input, TheRestOfALineCanBeDropped) {
+  std::istringstream typed("x y z\nnext");
+  input in(typed);
+  in.drop_rest_of_line();
+  EXPECT_TRUE(in.at_line_end());
+  in.drop_rest_of_line();
+  EXPECT_EQ(in.word(), "next");
+  in.drop_rest_of_line();
+  EXPECT_THROW(in.word(), end_of_input);
 }
 
 }  // namespace

@@ -107,6 +107,22 @@ TEST(Parser, ACommandThatTheEndOfTheInputCutsOffIsDropped) {
   EXPECT_EQ(type_in("random A 1\nalpha \n\n").out, "% " + line + "% ");
 }
 
+TEST(Parser, EveryBeginningOfASessionEndsInOrder) {
+  const std::string session =
+      "get A 2\n1 0 0 0\n2 1 1/2 -3\nalpha A\nsep A x\nrandom B 3\nB\nrange 7\nidentifiers\n"
+      "abcd\nscheme C nowhere\nis_cb\ndel \nA\ndim 2\nchar 7\ndeglex\nrandom2 D 4\n"
+      "gbasis D\nlingenpos D\nhelp\nnonsense\nlist\nquit\n";
+  for (std::size_t length = 0; length <= session.size(); ++length) {
+    std::istringstream keyboard(session.substr(0, length));
+    zep::session z(keyboard);
+    set_defaults(z);
+    const captured out(std::cout);
+    const captured err(std::cerr);
+    parser(z);
+    EXPECT_TRUE(z.quit) << length;
+  }
+}
+
 TEST(Parser, AVeryLongLineIsReportedWhole) {
   const std::string rest(1 << 20, 'x');
   EXPECT_EQ(type_in("list " + rest + "\n").out, "% unexpected '" + rest + "'\n% ");

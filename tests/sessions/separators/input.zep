@@ -1,0 +1,21 @@
+random A 6
+bumo A
+bumo A
+alpha A
+sigma A
+delta A
+deltafn A
+orderideal A
+is_cb A
+sep A
+is_gor A
+A
+quiet
+random B 12
+sep B
+write B nowhere
+deglex
+random A 6
+gbasis A
+sep A
+display_all
