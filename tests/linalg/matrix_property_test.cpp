@@ -1,0 +1,274 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "linalg/matrix.h"
+#include "tests/draw.h"
+#include "tests/ring_in_force.h"
+
+namespace zep {
+namespace {
+
+using order = std::vector<int>;
+
+int& at(order& list, int i) { return list[static_cast<std::size_t>(i)]; }
+int at(const order& list, int i) { return list[static_cast<std::size_t>(i)]; }
+
+matrix random_matrix(std::mt19937& random, int cols, int rows, int zeros_in_ten) {
+  matrix m(cols, rows);
+  for (int i = 0; i < rows; ++i) {
+    for (int j = 0; j < cols; ++j) {
+      m[i][j] = Fp8(below(random, 10) < zeros_in_ten ? 0 : below(random, Fp8::prime));
+    }
+  }
+  return m;
+}
+
+// Row i becomes a multiple of row k, column i one of column k, so that ranks differ.
+void make_dependent(std::mt19937& random, matrix& m) {
+  const int i = below(random, m.rows());
+  const int k = below(random, m.rows());
+  const Fp8 c(below(random, Fp8::prime));
+  for (int j = 0; j < m.cols(); ++j) m[i][j] = c * m[k][j];
+  const int from = below(random, m.cols());
+  const int to = below(random, m.cols());
+  for (int row = 0; row < m.rows(); ++row) m[row][to] = c * m[row][from];
+}
+
+order random_order(std::mt19937& random, int n) {
+  order result = identity_order(n);
+  for (int i = n - 1; i > 0; --i) std::swap(at(result, i), at(result, below(random, i + 1)));
+  return result;
+}
+
+// Expands along the first row of the selection.
+int plain_determinant(const matrix& m, const order& col, const order& rr) {
+  if (col.empty()) return 1;
+  const order rows(rr.begin() + 1, rr.end());
+  int sum = 0;
+  for (std::size_t j = 0; j < col.size(); ++j) {
+    order others = col;
+    others.erase(others.begin() + static_cast<std::ptrdiff_t>(j));
+    const int product = m[rr[0]][col[j]].value() * plain_determinant(m, others, rows) % Fp8::prime;
+    sum += j % 2 == 0 ? product : Fp8::prime - product;
+  }
+  return sum % Fp8::prime;
+}
+
+TEST(MatrixProperty, MinorIsTheExpandedDeterminant) {
+  std::mt19937 random(17);
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    for (int round = 0; round < 150; ++round) {
+      matrix m = random_matrix(random, 7, 6, round % 8);
+      if (round % 3 == 0) make_dependent(random, m);
+      for (int n = 0; n <= 5; ++n) {
+        order col = random_order(random, 7);
+        order rr = random_order(random, 6);
+        col.resize(static_cast<std::size_t>(n));
+        rr.resize(static_cast<std::size_t>(n));
+        ASSERT_EQ(m.minor(col, rr), plain_determinant(m, col, rr)) << m;
+      }
+    }
+  }
+}
+
+// Rank by textbook elimination on a table of ints.
+int plain_rank(const matrix& m) {
+  std::vector<order> rows;
+  for (int i = 0; i < m.rows(); ++i) {
+    order row;
+    for (const Fp8 x : m.row(i)) row.push_back(x.value());
+    rows.push_back(row);
+  }
+  std::size_t found = 0;
+  for (int j = 0; j < m.cols() && found < rows.size(); ++j) {
+    const auto pivot = std::find_if(rows.begin() + static_cast<std::ptrdiff_t>(found), rows.end(),
+                                    [j](const order& row) { return at(row, j) != 0; });
+    if (pivot == rows.end()) continue;
+    std::iter_swap(rows.begin() + static_cast<std::ptrdiff_t>(found), pivot);
+    const order& leader = rows[found];
+    for (std::size_t i = found + 1; i < rows.size(); ++i) {
+      const int above = at(rows[i], j);
+      for (int l = 0; l < m.cols(); ++l) {
+        const int cross = at(rows[i], l) * at(leader, j) - above * at(leader, l);
+        if (l != j) at(rows[i], l) = (cross % Fp8::prime + Fp8::prime) % Fp8::prime;
+      }
+      at(rows[i], j) = 0;
+    }
+    ++found;
+  }
+  return static_cast<int>(found);
+}
+
+// The elimination of `solve` entry by entry: the yardstick for the orders and for every entry.
+class plain_solver {
+ public:
+  plain_solver(matrix& a, order& c, order& r) : a_(a), c_(c), r_(r) {}
+
+  int run() {
+    int d = a_.cols();
+    int z = 0;
+    for (int k = 0; k < std::min(a_.cols(), a_.rows());) {
+      if (!bring_pivot_up(k)) {
+        if (k + z >= a_.cols() - 1) break;
+        ++z;
+        std::swap(at(c_, k), at(c_, a_.cols() - z));
+        continue;
+      }
+      if (--d == 0) return 0;
+      eliminate_below(k);
+      ++k;
+    }
+    substitute_back(a_.cols() - d);
+    return d;
+  }
+
+ private:
+  Fp8& entry(int k, int l) { return a_[at(r_, k)][at(c_, l)]; }
+
+  bool bring_pivot_up(int k) {
+    if (entry(k, k) != 0) return true;
+    for (int i = k + 1; i < a_.rows(); ++i) {
+      if (entry(i, k) != 0) {
+        std::swap(at(r_, k), at(r_, i));
+        return true;
+      }
+    }
+    return false;
+  }
+
+  void eliminate_below(int k) {
+    for (int j = k + 1; j < a_.cols(); ++j) entry(k, j) /= entry(k, k);
+    entry(k, k) = 1;
+    for (int i = k + 1; i < a_.rows(); ++i) {
+      if (entry(i, k) == 0) continue;
+      for (int j = k + 1; j < a_.cols(); ++j) entry(i, j) -= entry(i, k) * entry(k, j);
+      entry(i, k) = 0;
+    }
+  }
+
+  void substitute_back(int rank_found) {
+    for (int k = rank_found - 2; k >= 0; --k) {
+      for (int j = k + 1; j < rank_found; ++j) {
+        for (int l = rank_found; l < a_.cols(); ++l) entry(k, l) -= entry(k, j) * entry(j, l);
+        entry(k, j) = 0;
+      }
+    }
+  }
+
+  matrix& a_;
+  order& c_;
+  order& r_;
+};
+
+void expect_permutation(order list) {
+  std::sort(list.begin(), list.end());
+  ASSERT_EQ(list, identity_order(static_cast<int>(list.size())));
+}
+
+// The kernel vector with free unknown c[l] = 1, as callers read it off.
+std::vector<Fp8> kernel_vector(const matrix& solved, const order& c, const order& r, int rank_found,
+                               int l) {
+  std::vector<Fp8> v(c.size());
+  v[static_cast<std::size_t>(at(c, l))] = Fp8(1);
+  for (int k = 0; k < rank_found; ++k) {
+    v[static_cast<std::size_t>(at(c, k))] = -solved[at(r, k)][at(c, l)];
+  }
+  return v;
+}
+
+void expect_annihilated(const matrix& m, const std::vector<Fp8>& v) {
+  for (int i = 0; i < m.rows(); ++i) {
+    int sum = 0;
+    for (int j = 0; j < m.cols(); ++j) {
+      sum += m[i][j].value() * v[static_cast<std::size_t>(j)].value();
+    }
+    ASSERT_EQ(sum % Fp8::prime, 0) << m;
+  }
+}
+
+// Runs `check` on random systems of all shapes and densities, with random initial orders.
+template <class Check>
+void for_random_systems(std::initializer_list<int> primes, Check check) {
+  std::mt19937 random(18);
+  for (const int p : primes) {
+    const ring_in_force ring(p);
+    for (int round = 0; round < 600; ++round) {
+      matrix m = random_matrix(random, 1 + below(random, 9), 1 + below(random, 9), round % 10);
+      if (round % 2 == 0) make_dependent(random, m);
+      const bool identity = round % 3 != 0;
+      const order c = identity ? identity_order(m.cols()) : random_order(random, m.cols());
+      const order r = identity ? identity_order(m.rows()) : random_order(random, m.rows());
+      check(m, c, r);
+    }
+  }
+}
+
+TEST(MatrixProperty, SolveLeavesOrdersAndEntriesOfTheEliminationEntryByEntry) {
+  for_random_systems({2, 3, 101, 251}, [](const matrix& m, const order& c, const order& r) {
+    matrix expected = m;
+    order expected_c = c;
+    order expected_r = r;
+    const int d = plain_solver(expected, expected_c, expected_r).run();
+    matrix found = m;
+    order found_c = c;
+    order found_r = r;
+    ASSERT_EQ(found.solve(found_c, found_r), d) << m;
+    ASSERT_EQ(found_c, expected_c) << m;
+    ASSERT_EQ(found_r, expected_r) << m;
+    ASSERT_EQ(found, expected) << m;
+  });
+}
+
+TEST(MatrixProperty, SolveCountsTheUnknownsBeyondTheRank) {
+  for_random_systems({2, 3, 101, 251}, [](const matrix& m, order c, order r) {
+    const int expected = plain_rank(m);
+    matrix solved = m;
+    ASSERT_EQ(solved.solve(c, r), m.cols() - expected) << m;
+    ASSERT_EQ(rank(m), expected) << m;
+    expect_permutation(c);
+    expect_permutation(r);
+  });
+}
+
+TEST(MatrixProperty, SolveHoldsABasisOfTheKernel) {
+  for_random_systems({2, 3, 101, 251}, [](const matrix& m, order c, order r) {
+    matrix solved = m;
+    const int d = solved.solve(c, r);
+    const int rank_found = m.cols() - d;
+    for (int l = rank_found; l < m.cols(); ++l) {
+      expect_annihilated(m, kernel_vector(solved, c, r, rank_found, l));
+    }
+    for (int k = 0; k < rank_found && d > 0; ++k) {
+      for (int j = 0; j < rank_found; ++j) {
+        ASSERT_EQ(solved[at(r, k)][at(c, j)], k == j ? 1 : 0) << m;
+      }
+    }
+  });
+}
+
+TEST(MatrixProperty, NothingBreaksInACompositeCharacteristic) {
+  for_random_systems({4, 6, 250}, [](const matrix& m, order c, order r) {
+    const int n = std::min(m.cols(), m.rows());
+    const std::span<const int> col = std::span(c).first(static_cast<std::size_t>(n));
+    const std::span<const int> rr = std::span(r).first(static_cast<std::size_t>(n));
+    ASSERT_LT(m.minor(col, rr).value(), Fp8::prime);
+    matrix solved = m;
+    const int d = solved.solve(c, r);
+    ASSERT_GE(d, 0);
+    ASSERT_LE(d, m.cols());
+    expect_permutation(c);
+    expect_permutation(r);
+    for (int i = 0; i < m.rows(); ++i) {
+      for (const Fp8 x : solved.row(i)) ASSERT_LT(x.value(), Fp8::prime);
+    }
+  });
+}
+
+}  // namespace
+}  // namespace zep

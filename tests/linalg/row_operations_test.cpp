@@ -1,0 +1,190 @@
+#include "linalg/row_operations.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <vector>
+
+#include "tests/draw.h"
+#include "tests/ring_in_force.h"
+
+namespace zep {
+namespace {
+
+using row = std::vector<Fp8>;
+
+const std::size_t lengths[] = {0, 1, 7, 8, 15, 16, 17, 31, 32, 33, 63, 64, 65, 1000};
+constexpr std::size_t margin = 16;
+
+bool is_prime(int p) {
+  for (int d = 2; d < p; ++d) {
+    if (p % d == 0) return false;
+  }
+  return p > 1;
+}
+
+// The characteristics to be tested: all primes, and some composite ones.
+std::vector<int> characteristics() {
+  std::vector<int> result = {4, 6, 128, 250};
+  for (int p = 2; p <= 251; ++p) {
+    if (is_prime(p)) result.push_back(p);
+  }
+  return result;
+}
+
+row random_row(std::mt19937& random, std::size_t n) {
+  row result(n);
+  for (Fp8& x : result) x = Fp8(below(random, Fp8::prime));
+  return result;
+}
+
+// A row with room for n elements at every offset below the margin, and for a margin behind them.
+row padded_row(std::mt19937& random, std::size_t n) { return random_row(random, n + 2 * margin); }
+
+void axpy_with_tables(Fp8* d, const Fp8* s, Fp8 c, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) d[i] = d[i] + c * s[i];
+}
+
+void scale_with_tables(Fp8* d, Fp8 c, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) d[i] = c * d[i];
+}
+
+void product_with_tables(Fp8* d, const Fp8* a, const Fp8* b, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) d[i] = a[i] * b[i];
+}
+
+// Whole padded rows are compared: nothing outside the n elements may change.
+void expect_operations_agree(const row& a, const row& b, Fp8 c, std::size_t n, std::size_t offset_a,
+                             std::size_t offset_b) {
+  row expected = a;
+  row found = a;
+  axpy_with_tables(expected.data() + offset_a, b.data() + offset_b, c, n);
+  axpy(found.data() + offset_a, b.data() + offset_b, c, n);
+  ASSERT_TRUE(found == expected) << "axpy, c = " << c << ", n = " << n;
+  scale_with_tables(expected.data() + offset_a, c, n);
+  scale(found.data() + offset_a, c, n);
+  ASSERT_TRUE(found == expected) << "scale, c = " << c << ", n = " << n;
+}
+
+TEST(RowOperations, AgreeWithTheTablesForEveryFactorPrimeAndLength) {
+  std::mt19937 random(10);
+  for (const int p : characteristics()) {
+    const ring_in_force ring(p);
+    SCOPED_TRACE(p);
+    for (const std::size_t n : lengths) {
+      const row a = padded_row(random, n);
+      const row b = padded_row(random, n);
+      for (int c = 0; c < p; ++c) {
+        const auto offset = static_cast<std::size_t>(c) % margin;
+        expect_operations_agree(a, b, Fp8(c), n, offset, (3 * offset + 1) % margin);
+      }
+    }
+  }
+}
+
+TEST(RowOperations, AgreeWithTheTablesAtEveryPairOfOffsets) {
+  std::mt19937 random(11);
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    for (const std::size_t n : {15U, 33U, 64U}) {
+      const row a = padded_row(random, n);
+      const row b = padded_row(random, n);
+      const Fp8 c(below(random, p));
+      for (std::size_t i = 0; i < margin; ++i) {
+        for (std::size_t j = 0; j < margin; ++j) expect_operations_agree(a, b, c, n, i, j);
+      }
+    }
+  }
+}
+
+// d + c * s for all s at once, row after row over all d and c.
+TEST(RowOperations, AxpyIsExactForEveryTripleOfElements) {
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    const auto n = static_cast<std::size_t>(p);
+    row s(n);
+    for (int i = 0; i < p; ++i) s[static_cast<std::size_t>(i)] = Fp8(i);
+    int wrong = 0;
+    for (int d = 0; d < p; ++d) {
+      for (int c = 0; c < p; ++c) {
+        row found(n, Fp8(d));
+        axpy(found.data(), s.data(), Fp8(c), n);
+        for (int i = 0; i < p; ++i) {
+          wrong += found[static_cast<std::size_t>(i)].value() != (d + c * i) % p;
+        }
+      }
+    }
+    EXPECT_EQ(wrong, 0) << "p = " << p;
+  }
+}
+
+TEST(RowOperations, PointwiseProductAgreesWithTheTables) {
+  std::mt19937 random(12);
+  for (const int p : characteristics()) {
+    const ring_in_force ring(p);
+    for (const std::size_t n : lengths) {
+      for (std::size_t offset = 0; offset < margin; offset += 3) {
+        const row a = padded_row(random, n);
+        const row b = padded_row(random, n);
+        row expected = padded_row(random, n);
+        row found = expected;
+        product_with_tables(expected.data() + 1, a.data() + offset, b.data() + 2, n);
+        pointwise_product(found.data() + 1, a.data() + offset, b.data() + 2, n);
+        ASSERT_TRUE(found == expected) << "p = " << p << ", n = " << n;
+      }
+    }
+  }
+}
+
+TEST(RowOperations, PointwiseProductMayReplaceItsFactors) {
+  std::mt19937 random(13);
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    for (const std::size_t n : lengths) {
+      const row a = random_row(random, n);
+      const row b = random_row(random, n);
+      row expected(n);
+      product_with_tables(expected.data(), a.data(), b.data(), n);
+      row d = a;
+      pointwise_product(d.data(), d.data(), b.data(), n);
+      EXPECT_TRUE(d == expected) << "first factor, p = " << p << ", n = " << n;
+      d = b;
+      pointwise_product(d.data(), a.data(), d.data(), n);
+      EXPECT_TRUE(d == expected) << "second factor, p = " << p << ", n = " << n;
+      d = a;
+      product_with_tables(expected.data(), a.data(), a.data(), n);
+      pointwise_product(d.data(), d.data(), d.data(), n);
+      EXPECT_TRUE(d == expected) << "both factors, p = " << p << ", n = " << n;
+    }
+  }
+}
+
+TEST(RowOperations, FirstNonzeroFindsEveryPosition) {
+  std::mt19937 random(14);
+  const ring_in_force ring;
+  for (const std::size_t n : {0U, 1U, 7U, 8U, 9U, 15U, 16U, 17U, 31U, 33U, 65U}) {
+    for (std::size_t offset = 0; offset < 9; ++offset) {
+      for (std::size_t place = 0; place <= n; ++place) {
+        // Non-zero elements in front of the row and behind it must not be seen.
+        row data(offset + n + margin, Fp8(1));
+        for (std::size_t i = 0; i < n; ++i) data[offset + i] = Fp8(0);
+        for (std::size_t i = place; i < n; ++i) data[offset + i] = Fp8(below(random, 101));
+        if (place < n) data[offset + place] = Fp8(1 + below(random, 100));
+        ASSERT_EQ(first_nonzero(data.data() + offset, n), place) << "n = " << n;
+      }
+    }
+  }
+}
+
+TEST(RowOperations, FirstNonzeroSeesEveryBit) {
+  for (std::size_t place = 0; place < 20; ++place) {
+    for (const int value : {1, 2, 4, 8, 16, 32, 64, 128}) {
+      row data(20);
+      data[place] = Fp8(value);
+      ASSERT_EQ(first_nonzero(data.data(), data.size()), place) << value;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace zep
