@@ -7,13 +7,18 @@
 #include "front/error.h"
 #include "front/point_entry.h"
 #include "front/random_points.h"
+#include "front/result_files.h"
 #include "front/settings.h"
+#include "scheme/beta_matrix.h"
 #include "scheme/bu_mo.h"
 #include "scheme/general_position.h"
 #include "scheme/gorenstein.h"
 #include "scheme/invariants.h"
+#include "scheme/min_Ix.h"
 #include "scheme/progress.h"
 #include "scheme/separators.h"
+#include "scheme/socle.h"
+#include "scheme/uniformity.h"
 
 namespace zep {
 
@@ -52,6 +57,12 @@ void list_identifiers(session& z, int /*identifier*/) {
 
 void run_bumo(session& z, int identifier) { need_bu_mo(z.var.object(identifier)); }
 
+// What is no number counts as one that the test refuses.
+void test_n_uniformity(session& z, int identifier) {
+  const int n = z.typed.integer_or(0);
+  is_n_uf(std::cout, z.var.object(identifier), n);
+}
+
 void delete_identifier(session& z, int identifier) { z.var.del(identifier, false); }
 
 void delete_all_identifiers(session& z, int /*identifier*/) { z.var.del_all(false); }
@@ -64,7 +75,7 @@ void leave(session& z, int /*identifier*/) { z.quit = true; }
 
 const std::array<command_record, no_of_commands> command = {{
     {"alpha", point_set, show<alpha_X>},
-    {"betamat", point_set, nullptr},
+    {"betamat", point_set, show<disp_beta_matrix>},
     {"bumo", point_set, run_bumo},
     {"char", none, with_session<characteristic>},
     {"cyclotom", none, alone<cyclotom>},
@@ -87,9 +98,9 @@ const std::array<command_record, no_of_commands> command = {{
     {"hilbertfn", point_set, show<hilb_fct>},
     {"identifiers", none, with_session<identifiers>},
     {"is_cb", point_set, show<is_CB>},
-    {"is_duf", point_set, nullptr},
+    {"is_duf", point_set, show<is_delta_uf>},
     {"is_gor", point_set, show<is_ar_Go>},
-    {"is_uf", point_set, nullptr},
+    {"is_uf", point_set, test_n_uniformity},
     {"lingenpos", point_set, show<lingenpos>},
     {"linid", point_set, nullptr},
     {"linom", point_set, nullptr},
@@ -97,22 +108,22 @@ const std::array<command_record, no_of_commands> command = {{
     {"linres", point_set, nullptr},
     {"linsyz", point_set, nullptr},
     {"list", none, list_identifiers<false>},
-    {"min", point_set, nullptr},
-    {"mindegs", point_set, nullptr},
+    {"min", point_set, show<disp_min>},
+    {"mindegs", point_set, show<deg_min>},
     {"omega", point_set, nullptr},
     {"omegamat", point_set, nullptr},
     {"orderideal", point_set, show<order_ideal>},
-    {"putbeta", point_set, nullptr},
-    {"putgbasis", point_set, nullptr},
+    {"putbeta", point_set, putbeta},
+    {"putgbasis", point_set, putGroebner},
     {"putlinid", point_set, nullptr},
     {"putlinom", point_set, nullptr},
     {"putlinomsyz", point_set, nullptr},
     {"putlinres", point_set, nullptr},
     {"putlinsyz", point_set, nullptr},
-    {"putmin", point_set, nullptr},
+    {"putmin", point_set, putmin},
     {"putomega", point_set, nullptr},
-    {"putscheme", point_set, nullptr},
-    {"putsep", point_set, nullptr},
+    {"putscheme", point_set, putscheme},
+    {"putsep", point_set, putsep},
     {"quiet", none, set_verbose<0>},
     {"quit", none, leave},
     {"random", none, with_session<random1>},
@@ -123,10 +134,10 @@ const std::array<command_record, no_of_commands> command = {{
     {"scheme", none, with_session<create>},
     {"sep", point_set, show<separators>},
     {"sigma", point_set, show<sigma_X>},
-    {"socle", point_set, nullptr},
-    {"type", point_set, nullptr},
+    {"socle", point_set, show<disp_socle>},
+    {"type", point_set, show<typ>},
     {"verbose", none, set_verbose<1>},
-    {"write", point_set, nullptr},
+    {"write", point_set, write},
     {"writelinid", point_set, nullptr},
     {"writelinom", point_set, nullptr},
     {"writelinres", point_set, nullptr},

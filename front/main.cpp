@@ -5,9 +5,9 @@
 #include "arith/output.h"
 #include "front/memory.h"
 #include "front/parser.h"
+#include "front/process.h"
 #include "front/settings.h"
 #include "front/standard_input.h"
-#include "front/standard_streams.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ void run() {
 }  // namespace
 
 int main() {
-  zep::open_closed_descriptors();
+  zep::prepare_process();
   std::ios::sync_with_stdio(false);
   zep::install_mem_warn();
   try {

@@ -18,6 +18,7 @@ class equal_rows {
  public:
   // Looks at the rows of m; m is not kept.
   explicit equal_rows(const matrix& m);
+  ~equal_rows() = default;
   equal_rows(const equal_rows&) = delete;
   equal_rows& operator=(const equal_rows&) = delete;
 

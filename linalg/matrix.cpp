@@ -18,8 +18,7 @@ class gauss_jordan {
  public:
   gauss_jordan(matrix& a, std::span<int> c, std::span<int> r) : a_(a), c_(c), r_(r) {}
 
-  int run() {
-    const int steps = std::min(a_.cols(), a_.rows());
+  int run(int steps) {
     int free_unknowns = a_.cols();
     for (int k = 0; k < steps && find_pivot(k); ++k) {
       if (--free_unknowns == 0) return 0;
@@ -146,7 +145,13 @@ Fp8 matrix::minor(std::span<const int> col, std::span<const int> rr) const {
   return determinant;
 }
 
-int matrix::solve(std::span<int> c, std::span<int> r) { return gauss_jordan(*this, c, r).run(); }
+int matrix::solve(std::span<int> c, std::span<int> r) {
+  return solve(c, r, std::min(cols_, rows_));
+}
+
+int matrix::solve(std::span<int> c, std::span<int> r, int steps) {
+  return gauss_jordan(*this, c, r).run(steps);
+}
 
 std::vector<int> identity_order(int n) {
   std::vector<int> order(static_cast<std::size_t>(n));

@@ -49,6 +49,10 @@ class matrix {
   // partly reduced.
   int solve(std::span<int> c, std::span<int> r);
 
+  // The same with a given number of steps in place of the smaller of `cols` and `rows`, for a
+  // matrix that stands for one with more rows: missing rows count as zero. Requires steps <= cols.
+  int solve(std::span<int> c, std::span<int> r, int steps);
+
  private:
   std::size_t offset(int i) const {
     return static_cast<std::size_t>(i) * static_cast<std::size_t>(cols_);

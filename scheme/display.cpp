@@ -5,6 +5,8 @@
 #include "arith/output.h"
 #include "scheme/gorenstein.h"
 #include "scheme/invariants.h"
+#include "scheme/min_Ix.h"
+#include "scheme/socle.h"
 
 namespace zep {
 
@@ -24,6 +26,8 @@ std::ostream& operator<<(std::ostream& out, scheme& X) {
     is_CB(out, X);
     is_ar_Go(out, X);
   }
+  if (X.min_Ix) deg_min(out, X);
+  if (X.socle) disp_socle(out, X);
   return out;
 }
 

@@ -31,6 +31,10 @@ class groebner_basis {
   // Leading monomial of element g, 0 <= g < no_of_gens().
   const monom& lead(int g) const { return leads_[static_cast<std::size_t>(g)]; }
 
+  // The coefficients over O of element g without its leading monomial, up to the last member of O
+  // below that monomial.
+  std::span<const Fp8> tail(int g) const { return tails_[static_cast<std::size_t>(g)]; }
+
   // Element g.
   polynomial gen(int g, const std::vector<monom>& O) const;
 

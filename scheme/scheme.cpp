@@ -27,7 +27,8 @@ int is_el_O(const scheme& X, const monom& t) {
   if (degree == 0) return 0;
   if (degree < 0 || degree > X.sigma + 1) return -1;
   const int i = X.O_index.find(t);
-  const std::size_t d = static_cast<std::size_t>(degree);
+  if (i < 0) return -1;
+  const auto d = static_cast<std::size_t>(degree);
   return i >= X.hilb_fct[d - 1] && i < X.hilb_fct[d] ? i : -1;
 }
 

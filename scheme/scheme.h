@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "linalg/matrix.h"
+#include "scheme/canonical_forms.h"
+#include "scheme/ideal.h"
 #include "scheme/over_O.h"
 
 namespace zep {
@@ -55,9 +57,25 @@ struct scheme {
   int sep = 0;
   // Row i holds, over O, the separator of point i: 1 at point i, 0 at the other points.
   matrix separator;
-  // 1 if X has the Cayley-Bacharach property, is arithmetically Gorenstein.
+  // 1 if X has the Cayley-Bacharach property, is arithmetically Gorenstein. The socle can tell too.
   int is_CB = 0;
   int is_ar_Go = 0;
+
+  // Made by `beta_matrix`. -----------------------------------------------------------------------
+
+  // Entry (i, l) is the coefficient of the leading form of separator basis[l] in that of separator
+  // i: s rows, delta columns.
+  std::optional<matrix> beta_matrix;
+  std::vector<int> basis;
+
+  // Made by `need_Can_Lf`, `min_Ix` and `socle`. -------------------------------------------------
+
+  // Multiplication in the Artinian reduction.
+  std::optional<canonical_forms> Can_Lf;
+  // Minimal generators of the homogeneous vanishing ideal, ascending by degree.
+  std::optional<ideal> min_Ix;
+  // Generators of the socle of the Artinian reduction, ascending.
+  std::optional<ideal> socle;
 };
 
 // Number of border monomials.

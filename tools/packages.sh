@@ -30,4 +30,5 @@ need_packages() {
 }
 
 build_packages=(g++ make cmake libgmp-dev)
-test_packages=(libgtest-dev libbenchmark-dev clang-format clang-tidy)
+test_packages=(libgtest-dev libbenchmark-dev)
+lint_packages=(clang-format clang-tidy)

@@ -4,29 +4,16 @@
 
 #include "scheme/bu_mo.h"
 #include "scheme/general_position.h"
-#include "scheme/gorenstein.h"
 #include "scheme/ideal.h"
 #include "scheme/invariants.h"
+#include "scheme/min_Ix.h"
 #include "scheme/separators.h"
+#include "scheme/socle.h"
 #include "tests/scheme/point_sets.h"
+#include "tests/scheme/shown.h"
 
 namespace zep {
 namespace {
-
-using display = void (*)(std::ostream&, scheme&);
-
-std::string shown(display show, scheme& X) {
-  const silence quiet;
-  std::ostringstream out;
-  show(out, X);
-  return out.str();
-}
-
-// The same on a set on which nothing has been computed.
-std::string shown(display show, const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  return shown(show, X);
-}
 
 const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
 
@@ -73,21 +60,6 @@ TEST(Invariants, TheCayleyBacharachVerdictMakesTheSeparatorsUnlessItIsKnown) {
   EXPECT_EQ(Y.sep, 0);
 }
 
-TEST(Gorenstein, IsAnsweredFromTheSeparators) {
-  const ring_in_force ring(101, 2);
-  for (const bool square : {true, false}) {
-    scheme X = make_set(triangle);
-    if (square) X = make_set({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
-    {
-      const silence quiet;
-      need_sep(X);
-    }
-    EXPECT_EQ(shown(is_ar_Go, X), (square ? "scheme is arithmetically Gorenstein\n"
-                                          : "scheme is NOT arithmetically Gorenstein\n") +
-                                      line);
-  }
-}
-
 TEST(Record, GrowsWithTheResults) {
   const ring_in_force ring(101, 2);
   scheme X = make_set(triangle);
@@ -112,8 +84,13 @@ TEST(Record, GrowsWithTheResults) {
     const silence quiet;
     need_sep(X);
   }
-  EXPECT_EQ(record(), points + invariants + "scheme has Cayley-Bacharach property\n" + line +
-                          "scheme is NOT arithmetically Gorenstein\n" + line);
+  const std::string verdicts = "scheme has Cayley-Bacharach property\n" + line +
+                               "scheme is NOT arithmetically Gorenstein\n" + line;
+  EXPECT_EQ(record(), points + invariants + verdicts);
+  const std::string socle_text = shown(disp_socle, X);
+  EXPECT_EQ(record(), points + invariants + verdicts + socle_text);
+  const std::string degrees = shown(deg_min, X);
+  EXPECT_EQ(record(), points + invariants + verdicts + degrees + socle_text);
 }
 
 TEST(Ideal, PrintsAGeneratorALine) {

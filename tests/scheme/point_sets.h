@@ -8,6 +8,7 @@
 #include <random>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "arith/Fp8.h"
@@ -95,12 +96,7 @@ class plain_echelon {
   // True when the row is independent of those before.
   bool add(std::vector<int> row) {
     const int p = Fp8::prime;
-    for (const auto& [column, pivot_row] : rows_) {
-      const int c = row[column];
-      for (std::size_t i = 0; i < row.size(); ++i) {
-        row[i] = ((row[i] - c * pivot_row[i]) % p + p) % p;
-      }
-    }
+    row = reduced(std::move(row));
     const auto pivot = std::find_if(row.begin(), row.end(), [](int x) { return x != 0; });
     if (pivot == row.end()) return false;
     const auto column = static_cast<std::size_t>(pivot - row.begin());
@@ -109,6 +105,19 @@ class plain_echelon {
     for (int& x : row) x = x * inverse % p;
     rows_.emplace_back(column, row);
     return true;
+  }
+
+  // The row modulo the span of those before; 0 exactly when it lies in it.
+  std::vector<int> reduced(std::vector<int> row) const {
+    const int p = Fp8::prime;
+    for (const auto& [column, pivot_row] : rows_) {
+      const int c = row[column];
+      if (c == 0) continue;
+      for (std::size_t i = 0; i < row.size(); ++i) {
+        row[i] = ((row[i] - c * pivot_row[i]) % p + p) % p;
+      }
+    }
+    return row;
   }
 
   int rank() const { return static_cast<int>(rows_.size()); }

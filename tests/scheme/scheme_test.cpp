@@ -76,6 +76,17 @@ TEST(Scheme, FindsTheMonomialOneWithoutLookingAndNothingOfALargerDegree) {
   EXPECT_EQ(is_el_O(X, monomial({40, 40})), -1);
 }
 
+TEST(Scheme, WithoutPointsFindsNothingButTheMonomialOne) {
+  const ring_in_force ring(101, 2);
+  scheme X(0);
+  const silence quiet;
+  bu_mo(X);
+  EXPECT_EQ(is_el_O(X, variable(0)), -1);
+  EXPECT_EQ(is_el_OO(X, monom()), -1);
+  EXPECT_EQ(is_el_B(X, variable(0)), -1);
+  EXPECT_EQ(is_el_G(X, variable(0)), -1);
+}
+
 TEST(Scheme, FindsAProjectiveMonomialByItsAffinePart) {
   const ring_in_force ring(101, 2);
   scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});

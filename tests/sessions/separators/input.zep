@@ -13,7 +13,6 @@ A
 quiet
 random B 12
 sep B
-write B nowhere
 deglex
 random A 6
 gbasis A

@@ -1,0 +1,120 @@
+#include "front/result_files.h"
+
+#include <iostream>
+
+#include "arith/output.h"
+#include "arith/ring.h"
+#include "front/error.h"
+#include "front/files.h"
+#include "scheme/beta_matrix.h"
+#include "scheme/bu_mo.h"
+#include "scheme/display.h"
+#include "scheme/min_Ix.h"
+#include "scheme/separators.h"
+
+namespace zep {
+
+namespace {
+
+// Asks for a name and hands the open file to `write_to`, or reports that it can't be opened. True
+// if it was.
+template <class Write>
+bool into_file(session& z, Write write_to) {
+  result_file file(ask_filename(z.typed));
+  if (!file.is_open()) {
+    error(error_code::cannot_open_file);
+    return false;
+  }
+  write_to(file.stream());
+  file.close();
+  return true;
+}
+
+// The same, for a result that is computed when it does not exist.
+template <class Compute, class Write>
+void into_file(session& z, bool exists, Compute compute, Write write_to) {
+  into_file(z, [&](std::ostream& out) {
+    if (exists) {
+      std::cout << Line;
+    } else {
+      compute();
+    }
+    write_to(out);
+  });
+}
+
+// A row of n polynomials, made one by one.
+template <class Generator>
+void write_polynomials(std::ostream& out, int n, Generator generator) {
+  out << 1 << "\n" << n << "\n";
+  for (int i = 0; i < n; ++i) {
+    generator(i).put(out);
+    out << "\n";
+  }
+}
+
+void write_points(std::ostream& out, const scheme& X) {
+  out << proj << "\n" << X.s << "\n";
+  for (int i = 0; i < X.s; ++i) {
+    out << 1 << "\n";
+    for (const Fp8 x : X.P.row(i)) out << x << "\n";
+  }
+}
+
+void write_matrix(std::ostream& out, const matrix& m) {
+  out << m.cols() << "\n" << m.rows() << "\n";
+  for (int i = 0; i < m.rows(); ++i) {
+    for (const Fp8 x : m.row(i)) out << x << "\n";
+  }
+}
+
+}  // namespace
+
+void putscheme(session& z, int identifier) {
+  const scheme& X = z.var.object(identifier);
+  if (into_file(z, [&](std::ostream& out) { write_points(out, X); })) std::cout << Line;
+}
+
+void putbeta(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  into_file(
+      z, X.beta_matrix.has_value(), [&] { beta_matrix(X); },
+      [&](std::ostream& out) { write_matrix(out, *X.beta_matrix); });
+}
+
+void putsep(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  into_file(
+      z, X.sep != 0, [&] { need_sep(X); },
+      [&](std::ostream& out) {
+        write_polynomials(out, X.s, [&](int i) { return separator_of(X, i); });
+      });
+}
+
+void putGroebner(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  into_file(
+      z, X.has_bu_mo, [&] { bu_mo(X); },
+      [&](std::ostream& out) {
+        write_polynomials(out, X.Ix->no_of_gens(), [&](int g) { return groebner_element(X, g); });
+      });
+}
+
+void putmin(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  into_file(
+      z, X.min_Ix.has_value(), [&] { min_Ix(X); },
+      [&](std::ostream& out) {
+        const ideal& I = *X.min_Ix;
+        write_polynomials(out, I.no_of_gens(), [&](int m) -> const polynomial& {
+          return I.gen[static_cast<std::size_t>(m)];
+        });
+      });
+}
+
+void write(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  if (into_file(z, [&](std::ostream& out) { out << X; })) std::cout << Line;
+}
+
+}  // namespace zep

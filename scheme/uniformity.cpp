@@ -1,0 +1,252 @@
+#include "scheme/uniformity.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+#include <ostream>
+
+#include "arith/output.h"
+#include "linalg/row_operations.h"
+#include "scheme/beta_matrix.h"
+#include "scheme/bu_mo.h"
+#include "scheme/progress.h"
+#include "scheme/separators.h"
+
+namespace zep {
+
+namespace {
+
+std::size_t at(int i) { return static_cast<std::size_t>(i); }
+
+// Places of a subset, from the lowest on, that keep reduced rows of their own.
+constexpr int lower_places = 24;
+
+// Rows reduced by chosen ones, column by column, so that reducing all rows by one more is a row
+// operation on each column. Only the first `active` columns count; those of the pivots are gone.
+struct reduced_rows {
+  matrix columns;
+  int active;
+
+  // The first active column that is not zero in row c, or -1.
+  int pivot_of(int c) const {
+    for (int j = 0; j < active; ++j) {
+      if (columns[j][c] != 0) return j;
+    }
+    return -1;
+  }
+};
+
+// Walks over the k-subsets with a given last row, from the highest place down. What the chosen
+// upper rows cost is paid once for all that lies below them:
+//
+//     place i chooses row c[i] among the rows below c[i+1], reduced by c[i+1] .. c[k-1]
+//
+// The lower places keep their reduced rows, each in a table of its own. The upper places share one,
+// which is reduced further on the way down and made again from the start when one of them moves:
+// that is rare, and the tables of all places would take the cube of k.
+class subset_walk {
+ public:
+  subset_walk(const matrix& m, int k)
+      : all_(columns_of(m)),
+        upper_{all_, m.cols()},
+        lower_(std::min(k, lower_places)),
+        chosen_(at(k)),
+        nonzero_(at(m.rows())) {
+    for (int i = 0; i + 1 < lower_; ++i) {
+      const int active = m.cols() - (k - 1 - i);
+      places_.push_back({matrix(m.rows(), active), active});
+    }
+  }
+
+  // Finds the first dependent subset with last row `last`; true if there is one.
+  bool dependent_below(int last) {
+    const int top = static_cast<int>(chosen_.size()) - 1;
+    if (top >= lower_) reduce_upper_again(top + 1);
+    return choose(top, last);
+  }
+
+  // The subset that was found.
+  const std::vector<int>& chosen() const { return chosen_; }
+
+ private:
+  static matrix columns_of(const matrix& m) {
+    matrix columns(m.rows(), m.cols());
+    for (int i = 0; i < m.rows(); ++i) {
+      for (int j = 0; j < m.cols(); ++j) columns[j][i] = m[i][j];
+    }
+    return columns;
+  }
+
+  const reduced_rows& at_place(int i) const { return i >= lower_ - 1 ? upper_ : places_[at(i)]; }
+
+  // Chooses row c for place i, and all that can be chosen below it.
+  bool choose(int i, int c) {
+    chosen_[at(i)] = c;
+    const int pivot = at_place(i).pivot_of(c);
+    if (pivot < 0) {
+      // The rows from c on depend on each other whatever is below: the first choice is the answer.
+      std::iota(chosen_.begin(), chosen_.begin() + i, 0);
+      return true;
+    }
+    if (i == 0) return false;
+    if (i >= lower_) {
+      reduce_upper(c, pivot);
+    } else {
+      reduce_into_place_below(i, c, pivot);
+    }
+    if (i == 1) return choose_first(c);
+    for (int below = i - 1; below < c; ++below) {
+      if (i - 1 >= lower_ && below > i - 1) reduce_upper_again(i);
+      if (choose(i - 1, below)) return true;
+    }
+    return false;
+  }
+
+  // Reduces the rows below c of the upper table by row c, in place.
+  void reduce_upper(int c, int pivot) {
+    matrix& columns = upper_.columns;
+    const int last = --upper_.active;
+    if (pivot != last) {
+      std::swap_ranges(columns[pivot], columns[pivot] + columns.cols(), columns[last]);
+    }
+    for (int j = 0; j < last; ++j) {
+      axpy(columns[j], columns[last], -(columns[j][c] / columns[last][c]), at(c));
+    }
+  }
+
+  // Makes the upper table again: all rows, reduced by the chosen ones from place `first` on.
+  void reduce_upper_again(int first) {
+    upper_ = {all_, all_.rows()};
+    for (int i = static_cast<int>(chosen_.size()) - 1; i >= first; --i) {
+      reduce_upper(chosen_[at(i)], upper_.pivot_of(chosen_[at(i)]));
+    }
+  }
+
+  // Fills the table of place i - 1 with the rows below c, reduced by row c.
+  void reduce_into_place_below(int i, int c, int pivot) {
+    const reduced_rows& here = at_place(i);
+    matrix& next = places_[at(i - 1)].columns;
+    const Fp8* const pivot_column = here.columns[pivot];
+    int target = 0;
+    for (int j = 0; j < here.active; ++j) {
+      if (j == pivot) continue;
+      const Fp8* const column = here.columns[j];
+      std::copy(column, column + c, next[target]);
+      axpy(next[target], pivot_column, -(column[c] / pivot_column[c]), at(c));
+      ++target;
+    }
+  }
+
+  // Chooses for place 0 the first row below c that is zero.
+  bool choose_first(int c) {
+    const reduced_rows& here = at_place(0);
+    const Fp8* column = here.columns[0];
+    if (here.active > 1) {
+      std::fill(nonzero_.begin(), nonzero_.end(), Fp8(0));
+      for (int j = 0; j < here.active; ++j) mark_nonzero(here.columns[j], c);
+      column = nonzero_.data();
+    }
+    const void* const zero = std::memchr(column, 0, at(c));
+    if (zero == nullptr) return false;
+    chosen_[0] = static_cast<int>(static_cast<const Fp8*>(zero) - column);
+    return true;
+  }
+
+  void mark_nonzero(const Fp8* column, int c) {
+    for (int r = 0; r < c; ++r) {
+      nonzero_[at(r)] = Fp8(nonzero_[at(r)].value() | column[r].value());
+    }
+  }
+
+  // The columns of all rows, not reduced.
+  matrix all_;
+  // The table of the places from lower_ - 1 on.
+  reduced_rows upper_;
+  int lower_;
+  // The tables of the places below lower_ - 1.
+  std::vector<reduced_rows> places_;
+  std::vector<int> chosen_;
+  // Scratch: not zero where some column is not.
+  std::vector<Fp8> nonzero_;
+};
+
+void announce_advances_to(std::ostream& out, int last, int s) {
+  if (verbose != 0) out << "[" << s - last + 1 << "]" << std::flush;
+}
+
+// Walks over the k-subsets, counting down, and reports a dependent one. True if there is none.
+bool every_subset_is_independent(std::ostream& out, const scheme& X, int k) {
+  if (k == 0) return true;
+  const auto dependent = first_dependent_subset(
+      *X.beta_matrix, k, [&](int last) { announce_advances_to(out, last, X.s); });
+  if (!dependent) return true;
+  out << "\nlinear dependence between ";
+  for (const int i : *dependent) out << "f" << i + 1 << ", ";
+  out << "\ntherefore ";
+  return false;
+}
+
+void is_delta_uf_for_delta_one(std::ostream& out, const scheme& X) {
+  if (X.is_CB == 0) {
+    out << "scheme has NOT Cayley-Bacharach property\n"
+        << "hence it cannot have delta uniform property\n";
+  } else {
+    out << "scheme has Cayley-Bacharach property\n"
+        << "since delta = 1, scheme has also delta uniform property\n"
+        << "and is even 2-uniform\n";
+  }
+  out << Line;
+}
+
+}  // namespace
+
+std::optional<std::vector<int>> first_dependent_subset(const matrix& m, int k,
+                                                       const std::function<void(int)>& advanced) {
+  subset_walk walk(m, k);
+  for (int last = k - 1; last < m.rows(); ++last) {
+    if (last > k - 1) advanced(last);
+    if (walk.dependent_below(last)) return walk.chosen();
+  }
+  advanced(m.rows());
+  return std::nullopt;
+}
+
+void is_delta_uf(std::ostream& out, scheme& X) {
+  need_sep(X);
+  if (X.delta == 1) {
+    is_delta_uf_for_delta_one(out, X);
+    return;
+  }
+  beta_matrix(X);
+  const bool uniform = every_subset_is_independent(out, X, X.delta);
+  // Ends the line of the countdown, and of "therefore " as well.
+  if (verbose != 0) out << "\n";
+  out << (uniform ? "scheme has delta uniform property\n"
+                  : "scheme has NOT delta uniform property\n")
+      << Line;
+}
+
+void is_n_uf(std::ostream& out, scheme& X, int n) {
+  if (n <= 0) {
+    out << "n-unifomity only defined for n > 0 !!!\n" << Line;
+    return;
+  }
+  need_bu_mo(X);
+  if (n == X.delta) {
+    is_delta_uf(out, X);
+    return;
+  }
+  if (n > X.delta) {
+    out << "sorry, but checking n-unifomity for n > delta is not supported yet\n" << Line;
+    return;
+  }
+  beta_matrix(X);
+  if (every_subset_is_independent(out, X, n)) {
+    out << "\nscheme has " << n << "-uniform property\n";
+  } else {
+    out << "scheme has NOT " << n << "-uniform property\n";
+  }
+  out << Line;
+}
+
+}  // namespace zep

@@ -1,0 +1,58 @@
+// What the displays print.
+#pragma once
+
+#include <algorithm>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "scheme/scheme.h"
+#include "tests/scheme/point_sets.h"
+
+namespace zep {
+
+using display = void (*)(std::ostream&, scheme&);
+
+inline std::string shown(display show, scheme& X) {
+  const silence quiet;
+  std::ostringstream out;
+  show(out, X);
+  return out.str();
+}
+
+// The same on a set on which nothing has been computed.
+inline std::string shown(display show, const std::vector<coordinates>& points) {
+  scheme X = make_set(points);
+  return shown(show, X);
+}
+
+// How the first lines of long polynomials end, where the column at which they were begun shows.
+struct line_ends {
+  // Lines that could not have been longer, and breaks before terms that just did not fit.
+  int full = 0;
+  int tight = 0;
+};
+
+// Counts the first lines of broken polynomials in a list of them; each begins with its label. False
+// when a line is broken too early or too late.
+inline bool breaks_where_it_must(const std::string& text, line_ends& seen) {
+  const std::size_t end = 79;
+  bool right = true;
+  std::string above;
+  std::istringstream lines(text);
+  for (std::string row; std::getline(lines, row);) {
+    if (row.starts_with(" + ") || row.starts_with(" - ")) {
+      const std::size_t term = std::min(row.find(' ', 3), row.size());
+      right = right && above.size() < end && above.size() + term >= end;
+      if (above.find('=') != std::string::npos) {
+        seen.full += above.size() + 1 == end ? 1 : 0;
+        seen.tight += above.size() + term == end ? 1 : 0;
+      }
+    }
+    above = row;
+  }
+  return right;
+}
+
+}  // namespace zep
