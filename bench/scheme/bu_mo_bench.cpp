@@ -1,8 +1,7 @@
-#include "scheme/bu_mo.h"
-
 #include <benchmark/benchmark.h>
 
 #include "bench/scheme/points.h"
+#include "scheme/bu_mo.h"
 #include "scheme/separators.h"
 
 namespace zep {

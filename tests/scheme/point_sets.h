@@ -113,7 +113,7 @@ class plain_echelon {
     for (const auto& [column, pivot_row] : rows_) {
       const int c = row[column];
       if (c == 0) continue;
-      for (std::size_t i = 0; i < row.size(); ++i) {
+      for (std::size_t i = column; i < row.size(); ++i) {
         row[i] = ((row[i] - c * pivot_row[i]) % p + p) % p;
       }
     }
