@@ -124,6 +124,7 @@ matrix relation_matrix(const scheme& X, const std::vector<neighbours>& pairs) {
   const constants_of_relations constants(X);
   const int degrees = constants.degrees();
   std::vector<row_space> relations;
+  relations.reserve(at(degrees));
   for (int d = 0; d < degrees; ++d) relations.emplace_back(constants.size(d));
   for (const neighbours& pair : pairs) {
     relations[at(constants.degree(pair))].add(constants.relation(pair));
