@@ -38,6 +38,15 @@ TEST(CommandTable, ANumberOutsideDoesNothing) {
   EXPECT_FALSE(z.quit);
 }
 
+TEST(CommandTable, ASchemeCommandRefusesAnIdentifierOfAnotherType) {
+  std::istringstream nothing;
+  session z(nothing);
+  const captured out(std::cout);
+  // A free record has a type of its own.
+  execute(z, find_command("alpha"), 0);
+  EXPECT_EQ(out.text(), "indentifier of wrong typ\n");
+}
+
 TEST(CommandTable, OnlyDelAndDisplayTakeAnIdentifierOfAnyType) {
   for (const command_record& record : command) {
     const std::string_view name = record.name;
