@@ -161,6 +161,29 @@ TEST(SubsetWalk, AgreesWithDeterminants) {
   }
 }
 
+TEST(SubsetWalk, AgreesWithTheSolutionSpacesOfTheChosenRows) {
+  std::mt19937 random(7);
+  const ring_in_force ring(3, 3);
+  for (int round = 0; round < 100; ++round) {
+    const matrix m = random_matrix(5, 8, random);
+    const int k = 1 + round % 4;
+    const walk_result found = fast_walk(m, k);
+    subset c = identity_order(k);
+    std::vector<int> advances;
+    bool dependent = false;
+    do {
+      matrix chosen(5, k);
+      for (int i = 0; i < k; ++i) {
+        std::copy(m.row(c[at(i)]).begin(), m.row(c[at(i)]).end(), chosen[i]);
+      }
+      std::vector<int> columns = identity_order(5);
+      std::vector<int> rows = identity_order(k);
+      dependent = chosen.solve(columns, rows) > 5 - k;
+    } while (!dependent && advance(c, 8, advances));
+    EXPECT_EQ(found.dependent, dependent ? std::optional(c) : std::nullopt);
+  }
+}
+
 TEST(SubsetWalk, FindsAZeroRow) {
   const ring_in_force ring(101, 3);
   matrix m(2, 4);
