@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "arith/Fp.h"
+#include "arith/index.h"
 
 namespace zep {
 
@@ -105,7 +106,7 @@ void append(std::string& text, const monom& m, text_form form) {
   for (int i = 0; i < m.dim(); ++i) {
     const int e = m.exp(i);
     if (e == 0) continue;
-    text += varstring[static_cast<std::size_t>(i)];
+    text += varstring[at(i)];
     if (e == 1) continue;
     if (form == text_form::screen) text += '^';
     std::array<char, 8> digits{};

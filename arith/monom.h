@@ -7,6 +7,7 @@
 #include <iosfwd>
 #include <string>
 
+#include "arith/index.h"
 #include "arith/ring.h"
 
 namespace zep {
@@ -64,8 +65,6 @@ class monom {
   }
 
  private:
-  static std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
   std::int16_t dim_;
   std::array<exponent, max_variables> exp_{};
 };

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "arith/Fp8.h"
+#include "arith/index.h"
 #include "arith/monom.h"
 
 namespace zep {
@@ -33,8 +34,8 @@ class polynomial {
 
   int no_of_monoms() const { return static_cast<int>(term_.size()); }
   // Term i and its coefficient, 0 <= i < no_of_monoms(); term 0 leads.
-  const monom& term(int i) const { return term_[static_cast<std::size_t>(i)]; }
-  Fp8 coef(int i) const { return coef_[static_cast<std::size_t>(i)]; }
+  const monom& term(int i) const { return term_[at(i)]; }
+  Fp8 coef(int i) const { return coef_[at(i)]; }
 
   polynomial& operator+=(const polynomial& b);
   polynomial& operator-=(const polynomial& b);

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <string_view>
 
+#include "arith/index.h"
 #include "arith/output.h"
 #include "front/error.h"
 #include "front/point_entry.h"
@@ -167,14 +168,14 @@ bool accepts(const session& z, command_kind kind, int identifier) {
 
 int find_command(const std::string& name) {
   for (int c = 0; c < no_of_commands; ++c) {
-    if (name == command[static_cast<std::size_t>(c)].name) return c;
+    if (name == command[at(c)].name) return c;
   }
   return -1;
 }
 
 void execute(session& z, int c, int identifier) {
   if (c < 0 || c >= no_of_commands) return;
-  const command_record& todo = command[static_cast<std::size_t>(c)];
+  const command_record& todo = command[at(c)];
   if (!accepts(z, todo.kind, identifier)) return;
   if (todo.action == nullptr) {
     std::cout << todo.name << " is not available yet\n";
@@ -188,7 +189,7 @@ void help() {
   const int columns = LL / column_width;
   std::cout << "list of commands in alphabetical order :";
   for (int c = 0; c < no_of_commands; ++c) {
-    const std::string_view name = command[static_cast<std::size_t>(c)].name;
+    const std::string_view name = command[at(c)].name;
     if (c % columns == 0) std::cout << "\n";
     std::cout << name << std::string(column_width - name.size(), ' ');
   }

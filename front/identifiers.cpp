@@ -20,7 +20,7 @@ bool is_alphanumeric(char c) {
 
 int identifier_table::find(const std::string& name) const {
   for (int i = 0; i < size; ++i) {
-    if (at(i).name == name) return i;
+    if (entry(i).name == name) return i;
   }
   return unknown_identifier;
 }
@@ -28,14 +28,14 @@ int identifier_table::find(const std::string& name) const {
 int identifier_table::first_free() const { return find(std::string()); }
 
 void identifier_table::del(int i, bool quiet) {
-  if (!quiet) std::cout << at(i).name << " deleted\n";
-  at(i) = record();
+  if (!quiet) std::cout << entry(i).name << " deleted\n";
+  entry(i) = record();
 }
 
 void identifier_table::del_all(bool quiet) {
   bool any = false;
   for (int i = 0; i < size; ++i) {
-    if (at(i).name.empty()) continue;
+    if (entry(i).name.empty()) continue;
     del(i, quiet);
     any = true;
   }
@@ -43,14 +43,14 @@ void identifier_table::del_all(bool quiet) {
 }
 
 void identifier_table::display(int i, bool full) const {
-  if (type(i) == scheme_type) std::cout << "scheme " << at(i).name;
+  if (type(i) == scheme_type) std::cout << "scheme " << entry(i).name;
   std::cout << (full ? ":\n" : "\n");
   if (full && type(i) == scheme_type) std::cout << object(i);
 }
 
 void identifier_table::list_all(bool full) const {
   for (int i = 0; i < size; ++i) {
-    if (!at(i).name.empty()) display(i, full);
+    if (!entry(i).name.empty()) display(i, full);
   }
 }
 
@@ -69,7 +69,7 @@ std::optional<reservation> reservation::read(input& in, identifier_table& table)
     error(error_code::memory_exceeded);
     return std::nullopt;
   }
-  table.at(index).name = name;
+  table.entry(index).name = name;
   return reservation(table, index);
 }
 
@@ -81,8 +81,8 @@ reservation::~reservation() {
 }
 
 void reservation::fill(std::unique_ptr<scheme> object) {
-  table_->at(index_).object = std::move(object);
-  table_->at(index_).type = scheme_type;
+  table_->entry(index_).object = std::move(object);
+  table_->entry(index_).type = scheme_type;
   table_ = nullptr;
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "arith/index.h"
 #include "front/input.h"
 #include "scheme/scheme.h"
 
@@ -33,10 +34,10 @@ class identifier_table {
   int find(const std::string& name) const;
 
   // Type of record i.
-  int type(int i) const { return at(i).type; }
+  int type(int i) const { return entry(i).type; }
 
   // The scheme of record i. Requires type scheme_type.
-  scheme& object(int i) const { return *at(i).object; }
+  scheme& object(int i) const { return *entry(i).object; }
 
   // Frees record i and destroys its scheme; says so unless `quiet`.
   void del(int i, bool quiet);
@@ -59,8 +60,8 @@ class identifier_table {
     std::unique_ptr<scheme> object;
   };
 
-  record& at(int i) { return var_[static_cast<std::size_t>(i)]; }
-  const record& at(int i) const { return var_[static_cast<std::size_t>(i)]; }
+  record& entry(int i) { return var_[at(i)]; }
+  const record& entry(int i) const { return var_[at(i)]; }
   int first_free() const;
 
   std::array<record, size> var_;

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <string>
 
+#include "arith/index.h"
 #include "front/command.h"
 #include "front/error.h"
 
@@ -20,8 +21,7 @@ int read_identifier(session& z) {
 void carry_out(session& z, const std::string& word) {
   const int c = find_command(word);
   if (c >= 0) {
-    const bool takes_identifier =
-        command[static_cast<std::size_t>(c)].kind != command_kind::nothing;
+    const bool takes_identifier = command[at(c)].kind != command_kind::nothing;
     execute(z, c, takes_identifier ? read_identifier(z) : no_identifier);
     return;
   }

@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "arith/index.h"
 #include "arith/output.h"
 #include "arith/ring.h"
 #include "front/error.h"
@@ -106,9 +107,8 @@ void putmin(session& z, int identifier) {
       z, X.min_Ix.has_value(), [&] { min_Ix(X); },
       [&](std::ostream& out) {
         const ideal& I = *X.min_Ix;
-        write_polynomials(out, I.no_of_gens(), [&](int m) -> const polynomial& {
-          return I.gen[static_cast<std::size_t>(m)];
-        });
+        write_polynomials(out, I.no_of_gens(),
+                          [&](int m) -> const polynomial& { return I.gen[at(m)]; });
       });
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "arith/index.h"
 #include "linalg/row_operations.h"
 
 namespace zep {
@@ -35,8 +36,8 @@ class gauss_jordan {
   }
 
  private:
-  int& column(int k) { return c_[static_cast<std::size_t>(k)]; }
-  int& row_index(int k) { return r_[static_cast<std::size_t>(k)]; }
+  int& column(int k) { return c_[at(k)]; }
+  int& row_index(int k) { return r_[at(k)]; }
   Fp8* row(int k) { return a_[row_index(k)]; }
 
   // Brings a non-zero entry to position (k, k): a row from below, or else, with another column.
@@ -95,7 +96,7 @@ int width_of_column(const matrix& m, int j) {
 void print_row(std::ostream& out, const matrix& m, int i, const std::vector<int>& widths) {
   out << "[ ";
   for (int j = 0; j < m.cols(); ++j) {
-    const int spare = widths[static_cast<std::size_t>(j)] - len(m[i][j]);
+    const int spare = widths[at(j)] - len(m[i][j]);
     if (j > 0) out << "  ";
     out << blanks((spare + 1) / 2) << m[i][j] << blanks(spare / 2);
   }
@@ -121,18 +122,18 @@ Fp8 matrix::minor(std::span<const int> col, std::span<const int> rr) const {
   const int n = static_cast<int>(col.size());
   matrix w(n, n);
   for (int i = 0; i < n; ++i) {
-    const Fp8* row = (*this)[rr[static_cast<std::size_t>(i)]];
-    for (int j = 0; j < n; ++j) w[i][j] = row[col[static_cast<std::size_t>(j)]];
+    const Fp8* row = (*this)[rr[at(i)]];
+    for (int j = 0; j < n; ++j) w[i][j] = row[col[at(j)]];
   }
   std::vector<int> order = identity_order(n);
-  const auto row = [&](int k) { return w[order[static_cast<std::size_t>(k)]]; };
+  const auto row = [&](int k) { return w[order[at(k)]]; };
   Fp8 determinant(1);
   for (int k = 0; k < n; ++k) {
     int p = k;
     while (p < n && row(p)[k] == 0) ++p;
     if (p == n) return Fp8(0);
     if (p != k) {
-      std::swap(order[static_cast<std::size_t>(p)], order[static_cast<std::size_t>(k)]);
+      std::swap(order[at(p)], order[at(k)]);
       determinant = -determinant;
     }
     const Fp8 pivot = row(k)[k];
@@ -167,7 +168,7 @@ int rank(matrix m) {
 
 std::ostream& operator<<(std::ostream& out, const matrix& m) {
   std::vector<int> widths(static_cast<std::size_t>(m.cols()));
-  for (int j = 0; j < m.cols(); ++j) widths[static_cast<std::size_t>(j)] = width_of_column(m, j);
+  for (int j = 0; j < m.cols(); ++j) widths[at(j)] = width_of_column(m, j);
   for (int i = 0; i < m.rows(); ++i) {
     if (i > 0) out << empty_row(widths);
     print_row(out, m, i, widths);

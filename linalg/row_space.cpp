@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "arith/index.h"
 #include "linalg/row_operations.h"
 
 namespace zep {
@@ -25,7 +26,7 @@ bool row_space::add(std::vector<Fp8> row) {
 matrix row_space::basis() const {
   matrix m(cols_, rank());
   for (int i = 0; i < m.rows(); ++i) {
-    const std::vector<Fp8>& row = rows_[static_cast<std::size_t>(i)];
+    const std::vector<Fp8>& row = rows_[at(i)];
     std::copy(row.begin(), row.end(), m[i]);
   }
   return m;

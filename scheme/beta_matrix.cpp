@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "arith/index.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "scheme/progress.h"
@@ -13,8 +14,6 @@
 namespace zep {
 
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 // The elimination among the leading forms. Rows belong to points. Column l of `forms` belongs to
 // the l-th member of O of top degree, of which there are delta; they are the last ones of O.

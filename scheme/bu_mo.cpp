@@ -4,6 +4,7 @@
 #include <iostream>
 #include <utility>
 
+#include "arith/index.h"
 #include "arith/mmm.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
@@ -13,8 +14,6 @@
 namespace zep {
 
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 // Column j of m as row j.
 matrix transposed(const matrix& m) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "arith/Fp8.h"
+#include "arith/index.h"
 #include "scheme/over_O.h"
 
 namespace zep {
@@ -62,8 +63,6 @@ class canonical_forms {
   void add_product(std::span<Fp8> sum, std::span<const Fp8> row, int d, int v) const;
 
  private:
-  static std::size_t at(int i) { return static_cast<std::size_t>(i); }
-
   void set_degrees(const std::vector<monom>& O);
   void set_table(const std::vector<monom>& O, const monom_index& O_index,
                  const monom_index& B_index);

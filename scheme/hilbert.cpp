@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <numeric>
 
+#include "arith/index.h"
+
 namespace zep {
 
 namespace {
-
-std::size_t at(int n) { return static_cast<std::size_t>(n); }
 
 int separator_degree(const scheme& X, int i) {
   return X.O[at(leading_position(X.separator.row(i)))].tot_deg();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "arith/Fp.h"
+#include "arith/index.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
@@ -14,8 +15,6 @@
 namespace zep {
 
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 // P * x_a and P * x_b are border monomials, divisible by the leading monomials of two Groebner
 // basis elements; P, the position of a member of O, times x_a * x_b is their least common multiple.

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "arith/index.h"
+
 namespace zep {
 
 namespace {
@@ -38,7 +40,7 @@ groebner_basis::groebner_basis(std::vector<monom> leads, std::vector<std::vector
 polynomial groebner_basis::gen(int g, const std::vector<monom>& O) const {
   std::vector<monom> term{lead(g)};
   std::vector<Fp8> coef{Fp8(1)};
-  append_terms(term, coef, tails_[static_cast<std::size_t>(g)], O);
+  append_terms(term, coef, tails_[at(g)], O);
   return {std::move(term), std::move(coef)};
 }
 

@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+#include "arith/index.h"
 #include "arith/polynomial.h"
 #include "scheme/monom_index.h"
 
@@ -29,11 +30,11 @@ class groebner_basis {
   int no_of_gens() const { return static_cast<int>(leads_.size()); }
 
   // Leading monomial of element g, 0 <= g < no_of_gens().
-  const monom& lead(int g) const { return leads_[static_cast<std::size_t>(g)]; }
+  const monom& lead(int g) const { return leads_[at(g)]; }
 
   // The coefficients over O of element g without its leading monomial, up to the last member of O
   // below that monomial.
-  std::span<const Fp8> tail(int g) const { return tails_[static_cast<std::size_t>(g)]; }
+  std::span<const Fp8> tail(int g) const { return tails_[at(g)]; }
 
   // Element g.
   polynomial gen(int g, const std::vector<monom>& O) const;

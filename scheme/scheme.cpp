@@ -4,16 +4,18 @@
 #include <istream>
 #include <ostream>
 
+#include "arith/index.h"
+
 namespace zep {
 
 scheme::scheme(int ss)
     : s(std::max(ss, 0)),
       P(dim, s),
-      O(static_cast<std::size_t>(s)),
+      O(at(s)),
       q(0, 0),
       ev_q(0, 0),
-      hilb_fct(static_cast<std::size_t>(s)),
-      delta_fct(static_cast<std::size_t>(s)),
+      hilb_fct(at(s)),
+      delta_fct(at(s)),
       separator(0, 0) {}
 
 polynomial groebner_element(const scheme& X, int g) { return X.Ix->gen(g, X.O); }
@@ -28,8 +30,7 @@ int is_el_O(const scheme& X, const monom& t) {
   if (degree < 0 || degree > X.sigma + 1) return -1;
   const int i = X.O_index.find(t);
   if (i < 0) return -1;
-  const auto d = static_cast<std::size_t>(degree);
-  return i >= X.hilb_fct[d - 1] && i < X.hilb_fct[d] ? i : -1;
+  return i >= X.hilb_fct[at(degree - 1)] && i < X.hilb_fct[at(degree)] ? i : -1;
 }
 
 int is_el_G(const scheme& X, const monom& t) { return X.Ix->find(t); }

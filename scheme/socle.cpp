@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "arith/Fp.h"
+#include "arith/index.h"
 #include "arith/list.h"
 #include "arith/output.h"
 #include "scheme/create_Can_Lf.h"
@@ -14,8 +15,6 @@
 namespace zep {
 
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 // The socle in the degrees below the top one.
 class socle_finder {

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <ostream>
 
+#include "arith/index.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "scheme/beta_matrix.h"
@@ -15,8 +16,6 @@
 namespace zep {
 
 namespace {
-
-std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 // Places of a subset, from the lowest on, that keep reduced rows of their own.
 constexpr int lower_places = 24;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "arith/Fp8.h"
+#include "arith/index.h"
 #include "arith/ordering.h"
 #include "arith/polynomial.h"
 #include "arith/ring.h"
@@ -33,8 +34,6 @@ struct silence {
 
 using coordinates = std::vector<int>;
 using exponents = std::vector<int>;
-
-inline std::size_t at(int i) { return static_cast<std::size_t>(i); }
 
 inline scheme make_set(const std::vector<coordinates>& points) {
   scheme X(static_cast<int>(points.size()));
