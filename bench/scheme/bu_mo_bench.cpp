@@ -2,7 +2,6 @@
 
 #include "bench/scheme/points.h"
 #include "scheme/bu_mo.h"
-#include "scheme/separators.h"
 
 namespace zep {
 namespace {
@@ -18,26 +17,8 @@ void bench_bu_mo(benchmark::State& state) {
   }
 }
 
-void bench_sep(benchmark::State& state) {
-  const silence quiet;
-  set_ring(101, 3);
-  scheme points = irregular_points(static_cast<int>(state.range(0)));
-  bu_mo(points);
-  for ([[maybe_unused]] const auto _ : state) {
-    scheme X = points;
-    sep(X);
-    benchmark::DoNotOptimize(X.is_CB);
-  }
-}
-
 BENCHMARK(bench_bu_mo)
     ->Name("bu_mo, P^3")
-    ->Arg(100)
-    ->Arg(300)
-    ->Arg(1000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(bench_sep)
-    ->Name("sep, P^3")
     ->Arg(100)
     ->Arg(300)
     ->Arg(1000)

@@ -1,0 +1,16 @@
+#include <benchmark/benchmark.h>
+
+#include "bench/scheme/after_bu_mo.h"
+#include "scheme/socle.h"
+
+namespace zep {
+namespace {
+
+BENCHMARK(bench_after_bu_mo<socle>)
+    ->Name("socle, P^3")
+    ->Arg(100)
+    ->Arg(500)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zep
