@@ -19,6 +19,9 @@ void scale(Fp8* d, Fp8 c, std::size_t n);
 // Sets d to the elementwise product of a and b; d may be a or b.
 void pointwise_product(Fp8* d, const Fp8* a, const Fp8* b, std::size_t n);
 
+// The sum of a[i] * b[i]; a and b may be the same.
+Fp8 dot(const Fp8* a, const Fp8* b, std::size_t n);
+
 // Position of the first non-zero element, n if there is none.
 std::size_t first_nonzero(const Fp8* s, std::size_t n);
 

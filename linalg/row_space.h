@@ -1,6 +1,7 @@
 // The space that rows span, row by row.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "linalg/matrix.h"
@@ -18,6 +19,9 @@ class row_space {
   bool add(std::vector<Fp8> row);
 
   int rank() const { return static_cast<int>(rows_.size()); }
+
+  // The pivots of the rows that are kept, in their order.
+  const std::vector<std::size_t>& pivots() const { return pivots_; }
 
   // The rows that are kept, as a matrix of `rank` rows.
   matrix basis() const;

@@ -14,10 +14,10 @@ int top_degree_of(const std::vector<int>& begin) { return static_cast<int>(begin
 
 }  // namespace
 
-canonical_forms::canonical_forms(const std::vector<monom>& O, const monom_index& O_index,
-                                 const std::vector<monom>& B, const monom_index& B_index,
-                                 const groebner_basis& Ix)
-    : dim_(zep::dim) {
+canonical_forms::canonical_forms(quotient ring, const std::vector<monom>& O,
+                                 const monom_index& O_index, const std::vector<monom>& B,
+                                 const monom_index& B_index, const groebner_basis& Ix)
+    : ring_(ring), dim_(zep::dim) {
   set_degrees(O);
   set_table(O, O_index, B_index);
   forms_.reserve(B.size());
@@ -29,12 +29,12 @@ int canonical_forms::begin(int d) const {
   return d < 0 ? 0 : begin_[std::min(at(d), begin_.size() - 1)];
 }
 
-// The members of O are ascending; behind the first descent there is nothing but filling.
+// The members of O are ascending; behind the first descent, or a second 1, is nothing but filling.
 void canonical_forms::set_degrees(const std::vector<monom>& O) {
   int i = 0;
   for (const monom& t : O) {
     const int degree = t.tot_deg();
-    if (degree < top_degree_of(begin_)) break;
+    if (degree < top_degree_of(begin_) || (degree == 0 && i > 0)) break;
     if (degree > top_degree_of(begin_)) begin_.push_back(i);
     ++i;
   }
@@ -57,12 +57,12 @@ void canonical_forms::set_table(const std::vector<monom>& O, const monom_index& 
 void canonical_forms::add_form(const monom& t, const monom_index& B_index,
                                const groebner_basis& Ix) {
   const int d = t.tot_deg();
-  std::vector<Fp8> row(at(dimension(d)));
+  std::vector<Fp8> row(at(begin(d + 1) - first(d)));
   origin from{-1, -1};
   if (const int g = Ix.find(t); g >= 0) {
     const std::span<const Fp8> tail = Ix.tail(g);
-    const std::size_t first = std::min(at(begin(d)), tail.size());
-    std::copy(tail.begin() + static_cast<std::ptrdiff_t>(first), tail.end(), row.begin());
+    const std::size_t start = std::min(at(first(d)), tail.size());
+    std::copy(tail.begin() + static_cast<std::ptrdiff_t>(start), tail.end(), row.begin());
     scale(row.data(), -Fp8(1), row.size());
   } else {
     // The greatest border monomial below t is the one that lacks the smallest variable.
@@ -81,9 +81,10 @@ void canonical_forms::add_product(std::span<Fp8> sum, std::span<const Fp8> row, 
                                   int v) const {
   for_each_product(row, d, v, [&](Fp8 c, product p) {
     if (p.in_O) {
-      sum[at(p.position - begin(d + 1))] += c;
+      sum[at(p.position - first(d + 1))] += c;
     } else {
-      axpy(sum.data(), form(p.position).data(), c, sum.size());
+      const std::span<const Fp8> canonical = form(p.position);
+      axpy(sum.data(), canonical.data(), c, canonical.size());
     }
   });
 }

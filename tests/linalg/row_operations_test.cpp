@@ -159,6 +159,36 @@ TEST(RowOperations, PointwiseProductMayReplaceItsFactors) {
   }
 }
 
+Fp8 dot_with_tables(const Fp8* a, const Fp8* b, std::size_t n) {
+  Fp8 sum(0);
+  for (std::size_t i = 0; i < n; ++i) sum += a[i] * b[i];
+  return sum;
+}
+
+TEST(RowOperations, DotAgreesWithTheTables) {
+  std::mt19937 random(15);
+  for (const int p : characteristics()) {
+    const ring_in_force ring(p);
+    for (const std::size_t n : lengths) {
+      for (std::size_t offset = 0; offset < margin; offset += 3) {
+        const row a = padded_row(random, n);
+        const row b = padded_row(random, n);
+        ASSERT_EQ(dot(a.data() + offset, b.data() + 2, n),
+                  dot_with_tables(a.data() + offset, b.data() + 2, n))
+            << "p = " << p << ", n = " << n;
+      }
+    }
+  }
+}
+
+TEST(RowOperations, DotIsExactWhereItsSumsAreLargest) {
+  const ring_in_force ring(251);
+  for (const std::size_t n : {32767U, 32768U, 32769U, 65536U, 100000U}) {
+    const row greatest(n, Fp8(250));
+    EXPECT_EQ(dot(greatest.data(), greatest.data(), n).value(), n % 251) << n;
+  }
+}
+
 TEST(RowOperations, FirstNonzeroFindsEveryPosition) {
   std::mt19937 random(14);
   const ring_in_force ring;

@@ -65,6 +65,24 @@ TEST(RowSpace, KeepsABasisOfWhatItWasGiven) {
   EXPECT_EQ(rank(both), rank(m));
 }
 
+TEST(RowSpace, HasRowsWithOneAtTheirPivotAndZeroAtThoseBefore) {
+  std::mt19937 random(4);
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    const matrix m = rows_of_low_rank(12, 15, 6, random);
+    row_space space(12);
+    for (int i = 0; i < 15; ++i) space.add({m.row(i).begin(), m.row(i).end()});
+    const matrix basis = space.basis();
+    ASSERT_EQ(space.pivots().size(), static_cast<std::size_t>(basis.rows()));
+    for (int i = 0; i < basis.rows(); ++i) {
+      for (int j = 0; j <= i; ++j) {
+        const auto pivot = static_cast<int>(space.pivots()[static_cast<std::size_t>(j)]);
+        EXPECT_EQ(basis[i][pivot], j == i ? 1 : 0);
+      }
+    }
+  }
+}
+
 TEST(RowSpace, OfNothingIsZero) {
   const ring_in_force ring(101);
   row_space space(3);

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
+#include <span>
 
 #include "scheme/create_Can_Lf.h"
 #include "tests/scheme/plain_artinian.h"
@@ -67,7 +70,8 @@ TEST(CanonicalForms, OfABorderMonomialThatIsReachedFromNothingAreZero) {
   const ring_in_force ring(101, 2);
   const std::vector<monom> O = {monom(), monomial({0, 1}), monomial({1, 0}), monomial({0, 2})};
   const std::vector<monom> B = {monomial({1, 1})};
-  const canonical_forms R(O, monom_index(O), B, monom_index(B), groebner_basis({}, {}));
+  const canonical_forms R(quotient::artinian, O, monom_index(O), B, monom_index(B),
+                          groebner_basis({}, {}));
   EXPECT_EQ(row(R.form(0).begin(), R.form(0).end()), row{Fp8(0)});
   EXPECT_EQ(R.origin_of(0).border, -1);
 }
@@ -86,6 +90,9 @@ TEST(CanonicalForms, LeaveOutWhatOnlyFillsTheOrderIdealUp) {
   EXPECT_EQ(X.Can_Lf->top_degree(), 1);
   EXPECT_EQ(X.Can_Lf->begin(1), 1);
   EXPECT_EQ(X.Can_Lf->begin(2), 2);
+  const scheme one = with_forms({{3, 4}, {3, 4}, {3, 4}});
+  EXPECT_EQ(one.O, (std::vector<monom>(3)));
+  EXPECT_EQ(one.Can_Lf->no_of_members(), 1);
 }
 
 TEST(CanonicalForms, OfMeaninglessPointsBreakNothing) {
@@ -94,6 +101,52 @@ TEST(CanonicalForms, OfMeaninglessPointsBreakNothing) {
     for (int b = 0; b < no_of_border(X); ++b) {
       EXPECT_EQ(static_cast<int>(X.Can_Lf->form(b).size()),
                 X.Can_Lf->dimension(X.B[at(b)].tot_deg()));
+    }
+  });
+}
+
+canonical_forms forms_in_R(const scheme& X) {
+  return {quotient::R, X.O, X.O_index, X.B, X.B_index, *X.Ix};
+}
+
+TEST(CanonicalForms, InTheWholeRingReachDownToTheConstant) {
+  const ring_in_force ring(101, 2);
+  const scheme X = with_forms({{0, 0}, {2, 1}, {4, 2}});
+  const canonical_forms R = forms_in_R(X);
+  // The members are 1, Y, Y^2; X is 2 Y, and Y^3 is 3 Y^2 - 2 Y.
+  const auto cubic = R.form(is_el_B(X, monomial({0, 3})));
+  EXPECT_EQ(row(cubic.begin(), cubic.end()), (row{Fp8(0), Fp8(99), Fp8(3)}));
+  const auto mixed = R.form(is_el_B(X, monomial({1, 2})));
+  EXPECT_EQ(row(mixed.begin(), mixed.end()), (row{Fp8(0), Fp8(97), Fp8(6)}));
+  const auto linear = R.form(is_el_B(X, monomial({1, 0})));
+  EXPECT_EQ(row(linear.begin(), linear.end()), (row{Fp8(0), Fp8(2)}));
+}
+
+TEST(CanonicalFormsProperty, InTheWholeRingHaveTheValuesOfTheirBorderMonomials) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const scheme X = with_forms(points);
+    const canonical_forms R = forms_in_R(X);
+    ASSERT_EQ(R.no_of_members(), X.s);
+    ASSERT_EQ(R.no_of_border(), no_of_border(X));
+    for (int b = 0; b < R.no_of_border(); ++b) {
+      const std::span<const Fp8> form = R.form(b);
+      ASSERT_EQ(static_cast<int>(form.size()), R.begin(X.B[at(b)].tot_deg() + 1));
+      const polynomial f = combination(form, X.O);
+      for (const coordinates& point : points) {
+        ASSERT_EQ(value_at(f, point), value_at(exponents_of(X.B[at(b)]), point));
+      }
+    }
+  });
+}
+
+TEST(CanonicalFormsProperty, InTheReductionAreTheLastPartsOfThoseInTheWholeRing) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const scheme X = with_forms(points);
+    const canonical_forms R = forms_in_R(X);
+    for (int b = 0; b < R.no_of_border(); ++b) {
+      const std::span<const Fp8> all = R.form(b);
+      const std::span<const Fp8> form = X.Can_Lf->form(b);
+      ASSERT_TRUE(std::equal(form.begin(), form.end(), all.end() - std::ssize(form)));
     }
   });
 }
