@@ -1,0 +1,84 @@
+// Matrices of polynomials, row by row.
+#pragma once
+
+#include <vector>
+
+#include "arith/index.h"
+#include "arith/polynomial.h"
+
+namespace zep {
+
+// A row of polynomials, most of them zero, as one list of the terms of all its entries: descending
+// in the order in force, on equal monomials by ascending column. So the first term is the pivot:
+// it leads the entry with the greatest leading monomial, the first such entry of several.
+//
+// All monomials of the rows that meet are of one kind, affine or projective. In one column, two
+// monomials with equal affine parts have equal powers of the homogenising variable.
+class polynomial_row {
+ public:
+  // c * m in entry `column`; c is not zero.
+  struct term {
+    monom m;
+    int column = 0;
+    Fp8 c;
+  };
+
+  // The zero row. Requires cols >= 0.
+  explicit polynomial_row(int cols = 0) : cols_(cols) {}
+  // The sum of the terms, in any order, also of one monomial in one column or with zeros.
+  polynomial_row(int cols, std::vector<term> terms);
+  explicit polynomial_row(const std::vector<polynomial>& entries);
+
+  // Number of entries.
+  int cols() const { return cols_; }
+  bool is_zero() const { return terms_.empty(); }
+  const std::vector<term>& terms() const { return terms_; }
+  // Requires a row that is not zero.
+  const term& pivot() const { return terms_.front(); }
+  // All entries.
+  std::vector<polynomial> entries() const;
+
+  // For a column j, 0 <= j < cols():
+  // Entry j.
+  polynomial entry(int j) const;
+  // The leading term of entry j; nullptr for zero.
+  const term* leading_term(int j) const;
+  // Replaces entry j.
+  void set_entry(int j, const polynomial& f);
+  // Adds c * m to entry j.
+  void add_term(int j, const monom& m, Fp8 c);
+
+  // Multiplies every entry. In a composite characteristic that may lose terms.
+  void operator*=(Fp8 c);
+  // Subtracts c * b, or c * q * b, from the row; b has as many columns.
+  void subtract(Fp8 c, const polynomial_row& b);
+  void subtract(Fp8 c, const monom& q, const polynomial_row& b);
+
+ private:
+  // Subtracts the terms that shifted(t) makes of those of b; it keeps their order.
+  template <class Shifted>
+  void subtract_shifted(Fp8 c, const polynomial_row& b, Shifted shifted);
+  // Appends the terms of f as entry j, out of order.
+  void append_terms(int j, const polynomial& f);
+
+  int cols_;
+  std::vector<term> terms_;
+};
+
+// Rows with a common number of columns.
+using polynomial_matrix = std::vector<polynomial_row>;
+
+// Divides row i by the leading coefficient of its entry jj. The row becomes zero when that has no
+// inverse: the entry is zero, or the characteristic composite.
+void norm(polynomial_matrix& A, int i, int jj);
+
+// Subtracts row k from row i, multiplied by the leading coefficient of entry jj of row i. With
+// row k normed at jj, and equal leading monomials there, that monomial vanishes.
+void reduce_c(polynomial_matrix& A, int k, int i, int jj);
+
+// Brings A to triangular form, row by row: reduces a row by the rows before it until its pivot is
+// the pivot of none of them, and norms it there. Rows before are not changed. Returns the column of
+// every row's pivot, -1 for a row that is zero in the end.
+std::vector<int> interreduce(polynomial_matrix& A);
+
+}  // namespace zep
