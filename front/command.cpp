@@ -16,6 +16,7 @@
 #include "scheme/gorenstein.h"
 #include "scheme/invariants.h"
 #include "scheme/min_Ix.h"
+#include "scheme/omega.h"
 #include "scheme/progress.h"
 #include "scheme/separators.h"
 #include "scheme/socle.h"
@@ -111,8 +112,8 @@ const std::array<command_record, no_of_commands> command = {{
     {"list", none, list_identifiers<false>},
     {"min", point_set, show<disp_min>},
     {"mindegs", point_set, show<deg_min>},
-    {"omega", point_set, nullptr},
-    {"omegamat", point_set, nullptr},
+    {"omega", point_set, show<disp_omega>},
+    {"omegamat", point_set, show<disp_omegamat>},
     {"orderideal", point_set, show<order_ideal>},
     {"putbeta", point_set, putbeta},
     {"putgbasis", point_set, putGroebner},
@@ -122,7 +123,7 @@ const std::array<command_record, no_of_commands> command = {{
     {"putlinres", point_set, nullptr},
     {"putlinsyz", point_set, nullptr},
     {"putmin", point_set, putmin},
-    {"putomega", point_set, nullptr},
+    {"putomega", point_set, putA_d},
     {"putscheme", point_set, putscheme},
     {"putsep", point_set, putsep},
     {"quiet", none, set_verbose<0>},

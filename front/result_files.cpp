@@ -11,6 +11,7 @@
 #include "scheme/bu_mo.h"
 #include "scheme/display.h"
 #include "scheme/min_Ix.h"
+#include "scheme/omega.h"
 #include "scheme/separators.h"
 
 namespace zep {
@@ -69,6 +70,17 @@ void write_matrix(std::ostream& out, const matrix& m) {
   }
 }
 
+// The presentation of the canonical module, column by column.
+void write_presentation(std::ostream& out, const scheme& X) {
+  out << no_of_pr(X) << "\n" << X.A_d_cols << "\n";
+  for (int j = 0; j < X.A_d_cols; ++j) {
+    for (int i = 0; i < no_of_pr(X); ++i) {
+      X.A_d[at(i) * at(X.A_d_cols) + at(j)].put(out);
+      out << "\n";
+    }
+  }
+}
+
 }  // namespace
 
 void putscheme(session& z, int identifier) {
@@ -110,6 +122,13 @@ void putmin(session& z, int identifier) {
         write_polynomials(out, I.no_of_gens(),
                           [&](int m) -> const polynomial& { return I.gen[at(m)]; });
       });
+}
+
+void putA_d(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  into_file(
+      z, no_of_pr(X) != 0, [&] { omega(X); },
+      [&](std::ostream& out) { write_presentation(out, X); });
 }
 
 void write(session& z, int identifier) {

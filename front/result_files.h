@@ -16,6 +16,7 @@ void putbeta(session& z, int identifier);
 void putsep(session& z, int identifier);
 void putGroebner(session& z, int identifier);
 void putmin(session& z, int identifier);
+void putA_d(session& z, int identifier);
 
 // Writes the whole record as it is displayed.
 void write(session& z, int identifier);

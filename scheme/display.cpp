@@ -6,6 +6,7 @@
 #include "scheme/gorenstein.h"
 #include "scheme/invariants.h"
 #include "scheme/min_Ix.h"
+#include "scheme/omega.h"
 #include "scheme/socle.h"
 
 namespace zep {
@@ -28,6 +29,7 @@ std::ostream& operator<<(std::ostream& out, scheme& X) {
   }
   if (X.min_Ix) deg_min(out, X);
   if (X.socle) disp_socle(out, X);
+  if (no_of_pr(X) != 0) disp_omega(out, X);
   return out;
 }
 

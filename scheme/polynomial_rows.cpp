@@ -64,6 +64,7 @@ polynomial_row::polynomial_row(int cols, std::vector<term> terms)
     if (sum.c != 0) *summed++ = sum;
   }
   terms_.erase(summed, terms_.end());
+  terms_.shrink_to_fit();
 }
 
 polynomial_row::polynomial_row(const std::vector<polynomial>& entries)

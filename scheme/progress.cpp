@@ -7,9 +7,11 @@ namespace zep {
 
 int verbose = 1;
 
-progress::progress(std::string_view heading) {
-  if (verbose != 0) std::cerr << heading;
+void report(std::string_view text) {
+  if (verbose != 0) std::cerr << text;
 }
+
+progress::progress(std::string_view heading) { report(heading); }
 
 void progress::count(int remaining) const {
   if (verbose == 0) return;
@@ -20,8 +22,6 @@ void progress::count(int remaining) const {
   std::cerr << item;
 }
 
-void progress::end_line() const {
-  if (verbose != 0) std::cerr << "\n";
-}
+void progress::end_line() const { report("\n"); }
 
 }  // namespace zep

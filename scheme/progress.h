@@ -8,6 +8,9 @@ namespace zep {
 // 1: computations report their progress; 0: they stay quiet.
 extern int verbose;
 
+// Writes the text while `verbose` is set.
+void report(std::string_view text);
+
 // Writes the progress of one computation while `verbose` is set: a heading, a countdown of numbers
 // in square brackets, a line end. Writes nothing otherwise.
 class progress {

@@ -76,10 +76,29 @@ struct scheme {
   std::optional<ideal> min_Ix;
   // Generators of the socle of the Artinian reduction, ascending.
   std::optional<ideal> socle;
+
+  // Made by `omega`: a minimal presentation of the canonical module.
+  // -------------------------------
+
+  // The positions in O of the monomials of its generators, projections, ascending.
+  std::vector<int> pr;
+  // Number of generators whose monomial has degree d, for d = 0 .. sigma + 1.
+  std::vector<int> pr_deg;
+  // The relations: A_d[i * A_d_cols + j] is the entry of relation j at generator i, homogeneous in
+  // projective monomials. Ascending by degree, that of the entry plus what the degree of the
+  // monomial of its generator lacks to the largest.
+  int A_d_cols = 0;
+  std::vector<polynomial> A_d;
+  // The largest degree of a relation; number of relations of degree e, for e = 0 .. A_d_maxdeg.
+  int A_d_maxdeg = 0;
+  std::vector<int> A_d_coldeg;
 };
 
 // Number of border monomials.
 inline int no_of_border(const scheme& X) { return static_cast<int>(X.B.size()); }
+
+// Number of generators of the canonical module. 0 before `omega`, and without points.
+inline int no_of_pr(const scheme& X) { return static_cast<int>(X.pr.size()); }
 
 // The Groebner basis element g, 0 <= g < Ix->no_of_gens(). Requires bu_mo.
 polynomial groebner_element(const scheme& X, int g);

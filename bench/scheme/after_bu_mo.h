@@ -8,12 +8,12 @@
 
 namespace zep {
 
-// Times a computation on irregular points of P^3 over F_101 for which bu_mo alone has run; the
-// argument is their number. What else the computation needs is part of its time.
+// Times a computation on irregular points of P^n over F_101 for which bu_mo alone has run; the
+// arguments are their number and n. What else the computation needs is part of its time.
 template <void (*compute)(scheme&)>
 void bench_after_bu_mo(benchmark::State& state) {
   const silence quiet;
-  set_ring(101, 3);
+  set_ring(101, static_cast<int>(state.range(1)));
   scheme points = irregular_points(static_cast<int>(state.range(0)));
   bu_mo(points);
   for ([[maybe_unused]] const auto _ : state) {

@@ -7,10 +7,11 @@ namespace zep {
 namespace {
 
 BENCHMARK(bench_after_bu_mo<sep>)
-    ->Name("sep, P^3")
-    ->Arg(100)
-    ->Arg(300)
-    ->Arg(1000)
+    ->Name("sep")
+    ->ArgNames({"points", "n"})
+    ->Args({100, 3})
+    ->Args({300, 3})
+    ->Args({1000, 3})
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -7,9 +7,10 @@ namespace zep {
 namespace {
 
 BENCHMARK(bench_after_bu_mo<socle>)
-    ->Name("socle, P^3")
-    ->Arg(100)
-    ->Arg(500)
+    ->Name("socle")
+    ->ArgNames({"points", "n"})
+    ->Args({100, 3})
+    ->Args({500, 3})
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace

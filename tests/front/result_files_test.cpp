@@ -79,6 +79,19 @@ TEST(ResultFiles, HoldTheNumbersOfRowsAndColumnsBeforeTheEntries) {
   EXPECT_EQ(name.contents(), "2\n3\n1\n0\n0\n1\n-1\n-1\n");
 }
 
+TEST(ResultFiles, ThePresentationIsWrittenColumnByColumn) {
+  const file_name name;
+  const std::string shown = printed_after(triangle, "putomega A " + name.text() + "\nomegamat A\n");
+  std::string columns = shown.substr(shown.find("A_2 :\n") + 6);
+  columns.erase(columns.find(line));
+  // The same entries in screen form: no carets occur here, and blanks only in sums.
+  std::string expected;
+  for (const char c : columns) {
+    if (c != '[' && c != ']' && c != ' ' && c != ';') expected += c;
+  }
+  EXPECT_EQ(name.contents(), "2\n3\n" + expected);
+}
+
 TEST(ResultFiles, TheRecordIsWrittenAsItIsDisplayed) {
   const file_name name;
   const std::string first = triangle + "sep A\nmin A\nsocle A\n";
@@ -101,6 +114,9 @@ TEST(ResultFiles, WhatExistsPrintsLineInPlaceOfTheComputation) {
   const std::string put = "putmin A " + name.text() + "\n";
   EXPECT_EQ(printed_after(triangle + "bumo A\n", put), ask + "% ");
   EXPECT_EQ(printed_after(triangle + "min A\n", put), ask + line + "% ");
+  const std::string presentation = "putomega A " + name.text() + "\n";
+  EXPECT_EQ(printed_after(triangle + "bumo A\n", presentation), ask + "% ");
+  EXPECT_EQ(printed_after(triangle + "omega A\n", presentation), ask + line + "% ");
 }
 
 TEST(ResultFiles, AFileThatExistsIsOverwritten) {
@@ -111,7 +127,8 @@ TEST(ResultFiles, AFileThatExistsIsOverwritten) {
 }
 
 TEST(ResultFiles, AFileThatCantBeOpenedComputesNothing) {
-  for (const std::string put : {"putscheme", "putbeta", "putsep", "putgbasis", "putmin", "write"}) {
+  for (const std::string put :
+       {"putscheme", "putbeta", "putsep", "putgbasis", "putmin", "putomega", "write"}) {
     for (const std::string name : {"/nowhere/at/all", "/"}) {
       const transcript t = type_in(triangle + put + " A " + name + "\nA\n");
       EXPECT_EQ(printed_after(triangle, put + " A " + name + "\nA\n"),

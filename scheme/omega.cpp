@@ -1,0 +1,181 @@
+#include "scheme/omega.h"
+
+#include <algorithm>
+#include <iterator>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "arith/index.h"
+#include "arith/output.h"
+#include "scheme/bu_mo.h"
+#include "scheme/canonical_forms.h"
+#include "scheme/dual_module.h"
+#include "scheme/generator_elimination.h"
+#include "scheme/progress.h"
+#include "scheme/projections.h"
+#include "scheme/superfluous_syzygies.h"
+
+namespace zep {
+
+namespace {
+
+void count_down(const progress& report, int n) {
+  for (int remaining = n; remaining > 0; --remaining) report.count(remaining);
+}
+
+// The countdown runs over all monomials whose canonical forms enter the syzygies. Those of the
+// border are enough to have the others by multiplication.
+canonical_forms forms_of(const scheme& X, const std::vector<syzygy_monomial>& syzygies) {
+  const progress forms("calculating canonical forms ...\n");
+  if (verbose != 0) count_down(forms, static_cast<int>(needed_monomials(X, syzygies).size()));
+  canonical_forms R(quotient::R, X.O, X.O_index, X.B, X.B_index, *X.Ix);
+  forms.end_line();
+  report(Line);
+  return R;
+}
+
+// The border elements that the syzygies lead.
+std::vector<int> leading_elements(const scheme& X, const dual_module& W,
+                                  const std::vector<syzygy_monomial>& syzygies) {
+  std::vector<int> leading;
+  leading.reserve(syzygies.size());
+  for (const auto& [T, owner] : syzygies) {
+    leading.push_back(W.find(X.O[at(W.candidate(owner))] / T, owner));
+  }
+  return leading;
+}
+
+std::vector<int> without_superfluous(const dual_module& W, const std::vector<int>& leading) {
+  const std::vector<bool> superfluous = superfluous_syzygies(W, leading);
+  std::vector<int> kept;
+  for (std::size_t i = 0; i < leading.size(); ++i) {
+    if (!superfluous[i]) kept.push_back(leading[i]);
+  }
+  return kept;
+}
+
+// Puts the generators that remain into X.
+void store_generators(scheme& X, const dual_module& W, const generator_elimination& generators) {
+  std::vector<int> pr;
+  std::vector<int> pr_deg(at(std::max(X.sigma + 2, 0)));
+  for (int a = 0; a < W.no_of_candidates(); ++a) {
+    if (generators.is_eliminated(a)) continue;
+    pr.push_back(W.candidate(a));
+    ++pr_deg[at(W.degree_of_member(W.candidate(a)))];
+  }
+  X.pr = std::move(pr);
+  X.pr_deg = std::move(pr_deg);
+}
+
+// Puts the columns, whose entries belong to all candidates, and their degrees into X.
+void store_relations(scheme& X, const generator_elimination& generators,
+                     const std::vector<polynomial_row>& columns, std::vector<int> coldeg) {
+  const int cols = static_cast<int>(columns.size());
+  std::vector<polynomial> A_d(X.pr.size() * columns.size());
+  for (int j = 0; j < cols; ++j) {
+    std::vector<polynomial> entries = columns[at(j)].entries();
+    std::size_t place = at(j);
+    for (std::size_t a = 0; a < entries.size(); ++a) {
+      if (generators.is_eliminated(static_cast<int>(a))) continue;
+      A_d[place] = std::move(entries[a]);
+      place += at(cols);
+    }
+  }
+  X.A_d = std::move(A_d);
+  X.A_d_cols = cols;
+  X.A_d_maxdeg = static_cast<int>(coldeg.size()) - 1;
+  X.A_d_coldeg = std::move(coldeg);
+}
+
+// Prints one side of the presentation: the shifted summands with their multiplicities.
+class module_text {
+ public:
+  void add(int multiplicity, int shift) {
+    if (multiplicity == 0) return;
+    text_ += text_.empty() ? "P" : " + P";
+    if (multiplicity != 1) text_ += "^" + std::to_string(multiplicity);
+    if (shift != 0) text_ += "(" + std::to_string(shift) + ")";
+  }
+  const std::string& text() const { return text_; }
+
+ private:
+  std::string text_;
+};
+
+}  // namespace
+
+void omega(scheme& X) {
+  need_bu_mo(X);
+  const std::vector<int> candidates = candidate_projections(X);
+  const std::vector<syzygy_monomial> monomials = syzygy_monomials(X, candidates);
+  const canonical_forms R = forms_of(X, monomials);
+  const dual_module W(X.O, R, candidates);
+  const std::vector<int> leading = leading_elements(X, W, monomials);
+  const int n = static_cast<int>(leading.size());
+  report(std::to_string(n) + " syzygies among " + std::to_string(candidates.size()) +
+         " projections found.\n" + Line);
+
+  const progress rewriting("rewriting syzygies ...\n");
+  const std::vector<syzygies_of_degree> syzygies =
+      rewritten_syzygies(W, without_superfluous(W, leading));
+  count_down(rewriting, n);
+  rewriting.end_line();
+
+  const progress eliminating("eliminating syzygies ...\n");
+  generator_elimination generators(W);
+  std::vector<polynomial_row> columns;
+  std::vector<int> coldeg(1);
+  for (const syzygies_of_degree& S : syzygies) {
+    const std::size_t before = columns.size();
+    std::ranges::move(generators.eliminate(S), std::back_inserter(columns));
+    coldeg.resize(at(W.top_degree() - S.degree + 1));
+    coldeg.back() = static_cast<int>(columns.size() - before);
+  }
+  count_down(eliminating, n);
+  eliminating.end_line();
+
+  const progress storing("rewriting syzygies ...\n");
+  store_generators(X, W, generators);
+  store_relations(X, generators, columns, std::move(coldeg));
+  count_down(storing, X.A_d_cols);
+  storing.end_line();
+  report(Line);
+}
+
+void need_omega(scheme& X) {
+  if (no_of_pr(X) == 0) omega(X);
+}
+
+void disp_omega(std::ostream& out, scheme& X) {
+  need_omega(X);
+  const int D = X.pr.empty() ? 0 : X.O[at(X.pr.back())].tot_deg();
+  module_text relations;
+  for (int e = X.A_d_maxdeg; e >= 0; --e) relations.add(X.A_d_coldeg[at(e)], D - e - 1);
+  module_text generators;
+  for (int d = 0; d <= X.sigma + 1; ++d) generators.add(X.pr_deg[at(d)], d - 1);
+  out << "the minimal homogeneous presentation of the canonical module w_R :\n"
+      << relations.text() << " --> " << generators.text() << " --> w_R --> 0\n"
+      << Line;
+}
+
+void disp_omegamat(std::ostream& out, scheme& X) {
+  need_omega(X);
+  out << "the coloms of A_" << dim << " :\n";
+  for (int j = 0; j < X.A_d_cols; ++j) {
+    out << "[ ";
+    counter = 2;
+    for (int i = 0; i < no_of_pr(X); ++i) {
+      if (i > 0) out << ";\n";
+      out << X.A_d[at(i) * at(X.A_d_cols) + at(j)];
+      counter = 0;
+    }
+    out << " ]\n";
+  }
+  out << Line << "w_R is generated by the following projections :\n";
+  for (const int i : X.pr) out << "pr_(" << X.O[at(i)] << ")\n";
+  out << Line;
+}
+
+}  // namespace zep
