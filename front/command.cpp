@@ -10,11 +10,14 @@
 #include "front/random_points.h"
 #include "front/result_files.h"
 #include "front/settings.h"
+#include "front/strand_files.h"
 #include "scheme/beta_matrix.h"
 #include "scheme/bu_mo.h"
 #include "scheme/general_position.h"
 #include "scheme/gorenstein.h"
 #include "scheme/invariants.h"
+#include "scheme/linid.h"
+#include "scheme/linom.h"
 #include "scheme/min_Ix.h"
 #include "scheme/omega.h"
 #include "scheme/progress.h"
@@ -58,6 +61,25 @@ void list_identifiers(session& z, int /*identifier*/) {
 }
 
 void run_bumo(session& z, int identifier) { need_bu_mo(z.var.object(identifier)); }
+
+void show_linid(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  linid(X);
+  disp_linid(std::cout, X);
+}
+
+void show_linom(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  linom(X);
+  disp_linom(std::cout, X);
+}
+
+void show_linres(session& z, int identifier) {
+  scheme& X = z.var.object(identifier);
+  linid(X);
+  linom(X);
+  disp_linres(std::cout, X);
+}
 
 // What is no number counts as one that the test refuses.
 void test_n_uniformity(session& z, int identifier) {
@@ -104,11 +126,11 @@ const std::array<command_record, no_of_commands> command = {{
     {"is_gor", point_set, show<is_ar_Go>},
     {"is_uf", point_set, test_n_uniformity},
     {"lingenpos", point_set, show<lingenpos>},
-    {"linid", point_set, nullptr},
-    {"linom", point_set, nullptr},
-    {"linomsyz", point_set, nullptr},
-    {"linres", point_set, nullptr},
-    {"linsyz", point_set, nullptr},
+    {"linid", point_set, show_linid},
+    {"linom", point_set, show_linom},
+    {"linomsyz", point_set, show<linomsyz>},
+    {"linres", point_set, show_linres},
+    {"linsyz", point_set, show<linsyz>},
     {"list", none, list_identifiers<false>},
     {"min", point_set, show<disp_min>},
     {"mindegs", point_set, show<deg_min>},
@@ -117,11 +139,11 @@ const std::array<command_record, no_of_commands> command = {{
     {"orderideal", point_set, show<order_ideal>},
     {"putbeta", point_set, putbeta},
     {"putgbasis", point_set, putGroebner},
-    {"putlinid", point_set, nullptr},
-    {"putlinom", point_set, nullptr},
-    {"putlinomsyz", point_set, nullptr},
-    {"putlinres", point_set, nullptr},
-    {"putlinsyz", point_set, nullptr},
+    {"putlinid", point_set, putlinid},
+    {"putlinom", point_set, putlinom},
+    {"putlinomsyz", point_set, putlinomsyz},
+    {"putlinres", point_set, putlinres},
+    {"putlinsyz", point_set, putlinsyz},
     {"putmin", point_set, putmin},
     {"putomega", point_set, putA_d},
     {"putscheme", point_set, putscheme},
@@ -140,9 +162,9 @@ const std::array<command_record, no_of_commands> command = {{
     {"type", point_set, show<typ>},
     {"verbose", none, set_verbose<1>},
     {"write", point_set, write},
-    {"writelinid", point_set, nullptr},
-    {"writelinom", point_set, nullptr},
-    {"writelinres", point_set, nullptr},
+    {"writelinid", point_set, writelinid},
+    {"writelinom", point_set, writelinom},
+    {"writelinres", point_set, writelinres},
 }};
 
 namespace {
@@ -178,10 +200,6 @@ void execute(session& z, int c, int identifier) {
   if (c < 0 || c >= no_of_commands) return;
   const command_record& todo = command[at(c)];
   if (!accepts(z, todo.kind, identifier)) return;
-  if (todo.action == nullptr) {
-    std::cout << todo.name << " is not available yet\n";
-    return;
-  }
   todo.action(z, identifier);
 }
 

@@ -15,8 +15,7 @@ struct command_record {
   // At most 11 characters; matching looks at whole words of 12.
   const char* name;
   command_kind kind;
-  // Carries the command out; the identifier is meaningful where the kind asks for one. Null for a
-  // command that is announced but not available yet.
+  // Carries the command out; the identifier is meaningful where the kind asks for one.
   void (*action)(session& z, int identifier);
 };
 

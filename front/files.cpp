@@ -16,9 +16,10 @@ constexpr mode_t result_permissions = 0664;
 
 bool has_nul(const std::string& name) { return name.find('\0') != std::string::npos; }
 
-int open_result(const std::string& name) {
+int open_result(const std::string& name, existing_contents existing) {
   if (has_nul(name)) return -1;
-  return ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC, result_permissions);
+  const int position = existing == existing_contents::drop ? O_TRUNC : O_APPEND;
+  return ::open(name.c_str(), O_WRONLY | O_CREAT | position, result_permissions);
 }
 
 }  // namespace
@@ -35,8 +36,10 @@ std::ifstream open_for_reading(const std::string& name) {
   return std::ifstream(name);
 }
 
-result_file::result_file(std::string name)
-    : name_(std::move(name)), buffer_(open_result(name_), std::ios::out), stream_(&buffer_) {}
+result_file::result_file(std::string name, existing_contents existing)
+    : name_(std::move(name)),
+      buffer_(open_result(name_, existing), std::ios::out),
+      stream_(&buffer_) {}
 
 void result_file::close() {
   const bool flushed = stream_.flush().good();

@@ -17,12 +17,15 @@ std::string ask_filename(input& in);
 // opened, nor can a name with a NUL, which the system would take for its end.
 std::ifstream open_for_reading(const std::string& name);
 
+// What becomes of the contents of a result file that exists.
+enum class existing_contents { drop, keep };
+
 // A text file that results are written to.
 class result_file {
  public:
   // Creates the file, readable for all and writable for owner and group unless the process's mask
-  // forbids it, or empties the one that exists. Check is_open.
-  explicit result_file(std::string name);
+  // forbids it, or empties the one that exists or goes on behind its end. Check is_open.
+  explicit result_file(std::string name, existing_contents existing = existing_contents::drop);
 
   bool is_open() const { return buffer_.is_open(); }
   std::ostream& stream() { return stream_; }

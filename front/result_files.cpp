@@ -5,31 +5,23 @@
 #include "arith/index.h"
 #include "arith/output.h"
 #include "arith/ring.h"
-#include "front/error.h"
-#include "front/files.h"
+#include "front/into_file.h"
 #include "scheme/beta_matrix.h"
 #include "scheme/bu_mo.h"
 #include "scheme/display.h"
 #include "scheme/min_Ix.h"
 #include "scheme/omega.h"
 #include "scheme/separators.h"
+#include "scheme/vector_text.h"
 
 namespace zep {
 
 namespace {
 
-// Asks for a name and hands the open file to `write_to`, or reports that it can't be opened. True
-// if it was.
+// Asks for a name and hands the open file to `write_to`. True if it could be opened.
 template <class Write>
 bool into_file(session& z, Write write_to) {
-  result_file file(ask_filename(z.typed));
-  if (!file.is_open()) {
-    error(error_code::cannot_open_file);
-    return false;
-  }
-  write_to(file.stream());
-  file.close();
-  return true;
+  return into_named_file(ask_filename(z.typed), existing_contents::drop, write_to);
 }
 
 // The same, for a result that is computed when it does not exist.
@@ -49,10 +41,7 @@ void into_file(session& z, bool exists, Compute compute, Write write_to) {
 template <class Generator>
 void write_polynomials(std::ostream& out, int n, Generator generator) {
   out << 1 << "\n" << n << "\n";
-  for (int i = 0; i < n; ++i) {
-    generator(i).put(out);
-    out << "\n";
-  }
+  put_vector(out, n, generator);
 }
 
 void write_points(std::ostream& out, const scheme& X) {
@@ -74,10 +63,7 @@ void write_matrix(std::ostream& out, const matrix& m) {
 void write_presentation(std::ostream& out, const scheme& X) {
   out << no_of_pr(X) << "\n" << X.A_d_cols << "\n";
   for (int j = 0; j < X.A_d_cols; ++j) {
-    for (int i = 0; i < no_of_pr(X); ++i) {
-      X.A_d[at(i) * at(X.A_d_cols) + at(j)].put(out);
-      out << "\n";
-    }
+    put_vector(out, no_of_pr(X), [&](int i) -> const polynomial& { return entry_of_A_d(X, i, j); });
   }
 }
 

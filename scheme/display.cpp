@@ -5,6 +5,8 @@
 #include "arith/output.h"
 #include "scheme/gorenstein.h"
 #include "scheme/invariants.h"
+#include "scheme/linid.h"
+#include "scheme/linom.h"
 #include "scheme/min_Ix.h"
 #include "scheme/omega.h"
 #include "scheme/socle.h"
@@ -30,6 +32,13 @@ std::ostream& operator<<(std::ostream& out, scheme& X) {
   if (X.min_Ix) deg_min(out, X);
   if (X.socle) disp_socle(out, X);
   if (no_of_pr(X) != 0) disp_omega(out, X);
+  if (X.linid != 0 && X.linom != 0) {
+    disp_linres(out, X);
+  } else if (X.linom != 0) {
+    disp_linom(out, X);
+  } else if (X.linid != 0) {
+    disp_linid(out, X);
+  }
   return out;
 }
 

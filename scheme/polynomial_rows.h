@@ -43,24 +43,13 @@ class polynomial_row {
   polynomial entry(int j) const;
   // The leading term of entry j; nullptr for zero.
   const term* leading_term(int j) const;
-  // Replaces entry j.
-  void set_entry(int j, const polynomial& f);
-  // Adds c * m to entry j.
-  void add_term(int j, const monom& m, Fp8 c);
 
   // Multiplies every entry. In a composite characteristic that may lose terms.
   void operator*=(Fp8 c);
-  // Subtracts c * b, or c * q * b, from the row; b has as many columns.
+  // Subtracts c * b from the row; b has as many columns.
   void subtract(Fp8 c, const polynomial_row& b);
-  void subtract(Fp8 c, const monom& q, const polynomial_row& b);
 
  private:
-  // Subtracts the terms that shifted(t) makes of those of b; it keeps their order.
-  template <class Shifted>
-  void subtract_shifted(Fp8 c, const polynomial_row& b, Shifted shifted);
-  // Appends the terms of f as entry j, out of order.
-  void append_terms(int j, const polynomial& f);
-
   int cols_;
   std::vector<term> terms_;
 };

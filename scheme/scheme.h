@@ -1,10 +1,12 @@
 // The record of one point set and of everything computed for it.
 #pragma once
 
+#include <array>
 #include <iosfwd>
 #include <optional>
 #include <vector>
 
+#include "arith/index.h"
 #include "linalg/matrix.h"
 #include "scheme/canonical_forms.h"
 #include "scheme/ideal.h"
@@ -92,10 +94,25 @@ struct scheme {
   // The largest degree of a relation; number of relations of degree e, for e = 0 .. A_d_maxdeg.
   int A_d_maxdeg = 0;
   std::vector<int> A_d_coldeg;
+
+  // Made by `linid` and `linom`: numbers in linear strands, marked by these.
+  // ------------------------
+
+  // Row 0 for I_X, from its first entry on; row 1 for w_R, from its last entry back; one entry for
+  // each affine variable. Until they are computed, and where nothing is left, 0.
+  std::array<std::vector<int>, 2> linres;
+  // 1 once they have been computed.
+  int linid = 0;
+  int linom = 0;
 };
 
 // Number of border monomials.
 inline int no_of_border(const scheme& X) { return static_cast<int>(X.B.size()); }
+
+// The entry of relation j at generator i of the canonical module.
+inline const polynomial& entry_of_A_d(const scheme& X, int i, int j) {
+  return X.A_d[at(i) * at(X.A_d_cols) + at(j)];
+}
 
 // Number of generators of the canonical module. 0 before `omega`, and without points.
 inline int no_of_pr(const scheme& X) { return static_cast<int>(X.pr.size()); }

@@ -1,0 +1,68 @@
+#include "linalg/compact_row.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "arith/index.h"
+#include "linalg/row_operations.h"
+
+namespace zep {
+
+namespace {
+
+// A row in one piece is worked on several elements at a time, so that it may hold some zeros.
+constexpr std::size_t elements_in_the_time_of_one = 4;
+
+}  // namespace
+
+compact_row::compact_row(std::vector<std::uint32_t> places, std::vector<Fp8> values)
+    : places_(std::move(places)), values_(std::move(values)) {
+  if (values_.empty()) return;
+  const std::size_t extent = places_.back() - places_.front() + 1;
+  if (extent > elements_in_the_time_of_one * values_.size()) return;
+  std::vector<Fp8> piece(extent);
+  for (std::size_t i = 0; i < values_.size(); ++i) piece[places_[i] - places_.front()] = values_[i];
+  first_ = places_.front();
+  places_ = {};
+  values_ = std::move(piece);
+}
+
+compact_row::compact_row(std::span<const Fp8> row) {
+  std::vector<std::uint32_t> places;
+  std::vector<Fp8> values;
+  for (std::size_t i = first_nonzero(row.data(), row.size()); i < row.size(); ++i) {
+    if (row[i] == 0) continue;
+    places.push_back(static_cast<std::uint32_t>(i));
+    values.push_back(row[i]);
+  }
+  *this = compact_row(std::move(places), std::move(values));
+}
+
+void compact_row::subtract_from(Fp8* d, Fp8 c) const {
+  if (places_.empty()) {
+    axpy(d + first_, values_.data(), -c, values_.size());
+    return;
+  }
+  for (std::size_t i = 0; i < values_.size(); ++i) d[places_[i]] -= c * values_[i];
+}
+
+void triangulate(std::vector<compact_row>& rows, std::size_t width) {
+  std::vector<int> row_with_pivot(width, -1);
+  std::vector<Fp8> all(width);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (rows[i].is_zero()) continue;
+    std::fill(all.begin(), all.end(), Fp8(0));
+    rows[i].subtract_from(all.data(), -Fp8(1));
+    std::size_t pivot = rows[i].pivot();
+    while (pivot < width && row_with_pivot[pivot] >= 0) {
+      rows[at(row_with_pivot[pivot])].subtract_from(all.data(), all[pivot]);
+      ++pivot;
+      pivot += first_nonzero(all.data() + pivot, width - pivot);
+    }
+    if (pivot < width) scale(all.data() + pivot, Fp8(1) / all[pivot], width - pivot);
+    rows[i] = compact_row(all);
+    if (!rows[i].is_zero()) row_with_pivot[pivot] = static_cast<int>(i);
+  }
+}
+
+}  // namespace zep

@@ -1,0 +1,33 @@
+// Vectors of polynomials as text.
+#pragma once
+
+#include <ostream>
+
+#include "arith/output.h"
+#include "arith/polynomial.h"
+
+namespace zep {
+
+// Prints component(0) .. component(n - 1) in brackets, in screen form, each on a line of its own.
+template <class Component>
+void show_vector(std::ostream& out, int n, Component component) {
+  out << "[ ";
+  counter = 2;
+  for (int i = 0; i < n; ++i) {
+    if (i > 0) out << ";\n";
+    out << component(i);
+    counter = 0;
+  }
+  out << " ]\n";
+}
+
+// Writes them in file form, one a line.
+template <class Component>
+void put_vector(std::ostream& out, int n, Component component) {
+  for (int i = 0; i < n; ++i) {
+    component(i).put(out);
+    out << "\n";
+  }
+}
+
+}  // namespace zep
