@@ -1,0 +1,203 @@
+#include "scheme/linom.h"
+
+#include <gtest/gtest.h>
+
+#include "scheme/display.h"
+#include "scheme/omega.h"
+#include "tests/scheme/shown.h"
+#include "tests/scheme/special_sets.h"
+
+namespace zep {
+namespace {
+
+const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
+
+const std::string table_of_triangle =
+    "    | 1   2   \n--------------\ndeg | 0   -1  \nw_R | 2   3   \n" + line;
+
+// A set whose canonical module has been presented, so that the strand alone is reported.
+scheme with_presentation(const std::vector<coordinates>& points) {
+  scheme X = make_set(points);
+  const silence quiet;
+  omega(X);
+  return X;
+}
+
+struct transcript {
+  std::string shown;
+  std::string out;
+  std::string err;
+};
+
+template <class Compute>
+transcript run(Compute compute) {
+  const silence quiet;
+  std::ostringstream shown;
+  compute(shown);
+  return {shown.str(), quiet.out.text(), quiet.err.text()};
+}
+
+TEST(Linom, OfATriangleHasTwoGeneratorsAndThreeRelations) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation(triangle);
+  const transcript t = run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(t.out, ".");
+  EXPECT_EQ(t.err,
+            "w_R has 2 generators in degree 0\n3 syzygies in degree -1 found\n"
+            "eliminating syzygies ...\n[1]\n" +
+                line);
+  EXPECT_EQ(X.linres[1], (std::vector<int>{3, 2}));
+  EXPECT_EQ(X.linom, 1);
+  EXPECT_EQ(shown(disp_linom, X), table_of_triangle);
+}
+
+TEST(Linom, WithoutLinearRelationsHasItsGeneratorsAlone) {
+  const ring_in_force ring;
+  scheme X = with_presentation(points_of_frame());
+  const transcript t = run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(t.err, "w_R has 1 generators in degree -1\n0 syzygies in degree -2 found\n\n" + line);
+  EXPECT_EQ(X.linres[1], (std::vector<int>{0, 0, 1}));
+}
+
+TEST(Linom, CountsTheGeneratorsOfLeastDegreeOnly) {
+  const ring_in_force ring(101, 3);
+  // Three collinear points and two others: generators to Y, X and Z^2.
+  scheme X = with_presentation({{0, 0, 0}, {0, 0, 1}, {0, 0, 2}, {0, 1, 0}, {1, 0, 0}});
+  ASSERT_EQ(no_of_pr(X), 3);
+  run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(X.linres[1], (std::vector<int>{1, 2, 1}));
+}
+
+// A level behind the last place of the table is reported all the same.
+TEST(Linom, OfOnePointGoesBeyondTheTable) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation({{5, 7}});
+  const transcript t = run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(t.err,
+            "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n"
+            "eliminating syzygies ...\n[1]\n1 syzygies in degree -1 found\n\n" +
+                line);
+  EXPECT_EQ(X.linres[1], (std::vector<int>{2, 1}));
+  const transcript file = run([&](std::ostream& out) { putlinom(out, X); });
+  EXPECT_EQ(file.shown,
+            "\n1. matrix of linear resolution of w_R : \n1\n2\nX-5Z\nY-7Z\n"
+            "\n2. matrix of linear resolution of w_R : \n2\n1\n-Y+7Z\nX-5Z\n");
+}
+
+TEST(Linom, OfNoPointsHasNothing) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation({});
+  const transcript t = run([&](std::ostream&) { linom(X); });
+  EXPECT_TRUE(t.err.ends_with(
+      "w_R has 0 generators in degree 0\n0 syzygies in degree -1 found\n\n" + line));
+  EXPECT_EQ(X.linres[1], (std::vector<int>{0, 0}));
+  EXPECT_EQ(X.linom, 1);
+}
+
+TEST(Linom, IsComputedOnce) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation(triangle);
+  run([&](std::ostream&) { linom(X); });
+  const transcript again = run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(again.out + again.err, "");
+}
+
+TEST(Linom, MakesThePresentationItNeeds) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set(triangle);
+  run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(no_of_pr(X), 2);
+  EXPECT_EQ(X.linres[1], (std::vector<int>{3, 2}));
+}
+
+TEST(Linom, LeavesTheDimensionAsItWas) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation(triangle);
+  run([&](std::ostream&) { linom(X); });
+  EXPECT_EQ(dim, 2);
+}
+
+TEST(Putlinom, WritesRelationsUnderHeadingsEachTimeAndMarksThem) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation(triangle);
+  for (int round = 0; round < 2; ++round) {
+    const transcript t = run([&](std::ostream& out) { putlinom(out, X); });
+    EXPECT_TRUE(t.shown.starts_with("\n1. matrix of linear resolution of w_R : \n2\n3\n"));
+    EXPECT_EQ(std::count(t.shown.begin(), t.shown.end(), '\n'), 10);
+    EXPECT_EQ(t.out, ".");
+    EXPECT_EQ(X.linom, 1);
+  }
+}
+
+TEST(Linomsyz, PrintsTheLinearRelationsAndStopsThere) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation({{5, 7}});
+  const transcript t = run([&](std::ostream& out) { linomsyz(out, X); });
+  EXPECT_EQ(t.shown, "[ X - 5Z ]\n[ Y - 7Z ]\n");
+  EXPECT_EQ(t.out, "");
+  EXPECT_EQ(t.err, "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n" + line);
+  EXPECT_EQ(X.linom, 0);
+  EXPECT_EQ(X.linres[1], (std::vector<int>{2, 1}));
+}
+
+TEST(Putlinomsyz, WritesTheLinearRelationsAndMarksNothing) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation({{5, 7}});
+  const transcript t = run([&](std::ostream& out) { putlinomsyz(out, X); });
+  EXPECT_EQ(t.shown, "1\n2\nX-5Z\nY-7Z\n");
+  EXPECT_EQ(X.linom, 0);
+}
+
+TEST(Linomsyz, ShowsNothingWhereThereIsNoLinearRelation) {
+  const ring_in_force ring;
+  scheme X = with_presentation(points_of_frame());
+  EXPECT_EQ(run([&](std::ostream& out) { linomsyz(out, X); }).shown, "");
+  EXPECT_EQ(run([&](std::ostream& out) { putlinomsyz(out, X); }).shown, "");
+  EXPECT_EQ(run([&](std::ostream& out) { putlinom(out, X); }).shown, "");
+}
+
+TEST(DispLinom, PadsAnEntryToTheWidthOfTheColumnWithItsIndex) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{1, 2, 3}});
+  X.sigma = 3;
+  X.linres[1] = {7, 60, 12345};
+  // The columns are 5, 3 and 3 wide; the entries are padded to 3, 3 and 5.
+  EXPECT_EQ(shown(disp_linom, X),
+            "    | 1     2   3   \n--------------------\ndeg | -3    -4  -5  \n"
+            "w_R | 1234560  7     \n" +
+                line);
+}
+
+TEST(DispLinres, ShowsBothStrandsWithWidthsForBoth) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{1, 2, 3}});
+  X.alpha = 2;
+  X.sigma = 1;
+  X.linres = {std::vector<int>{1, 1000, 3}, std::vector<int>{12345, 6, 7}};
+  EXPECT_EQ(shown(disp_linres, X),
+            "    | 1     2    3   \n---------------------\ndeg | 2     1    0   \n"
+            "I_X | 1     1000 3   \n---------------------\nw_R | 12345 6    7   \n"
+            "deg | -3    -2   -1  \n" +
+                line);
+}
+
+TEST(DispLinom, IsPartOfTheDisplayWhenTheOtherStrandIsNotThere) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation(triangle);
+  run([&](std::ostream&) { linom(X); });
+  std::ostringstream out;
+  out << X;
+  EXPECT_TRUE(out.str().ends_with(table_of_triangle));
+}
+
+TEST(Linom, OfMeaninglessPointsBreaksNothing) {
+  for_each_meaningless_set([](const std::vector<coordinates>& points) {
+    scheme X = make_set(points);
+    run([&](std::ostream& out) { linomsyz(out, X); });
+    run([&](std::ostream& out) { putlinom(out, X); });
+    EXPECT_EQ(X.linom, 1);
+  });
+}
+
+}  // namespace
+}  // namespace zep
