@@ -5,6 +5,7 @@
 #include "scheme/display.h"
 #include "scheme/linom.h"
 #include "scheme/min_Ix.h"
+#include "tests/scheme/computing.h"
 #include "tests/scheme/shown.h"
 #include "tests/scheme/special_sets.h"
 
@@ -24,24 +25,10 @@ scheme with_generators(const std::vector<coordinates>& points) {
   return X;
 }
 
-struct transcript {
-  std::string shown;
-  std::string out;
-  std::string err;
-};
-
-template <class Compute>
-transcript run(Compute compute) {
-  const silence quiet;
-  std::ostringstream shown;
-  compute(shown);
-  return {shown.str(), quiet.out.text(), quiet.err.text()};
-}
-
 TEST(Linid, OfATriangleHasThreeGeneratorsAndTwoSyzygies) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators(triangle);
-  const transcript t = run([&](std::ostream&) { linid(X); });
+  const written t = by([&](std::ostream&) { linid(X); });
   EXPECT_EQ(t.out, "");
   EXPECT_EQ(t.err,
             "I_X has 3 generators of degree 2\neliminating syzygies ...\n[2][1]\n"
@@ -56,7 +43,7 @@ TEST(Linid, WithoutPairsHasNoSyzygies) {
   const ring_in_force ring(101, 2);
   // Two conics without a common component, up to multiples of Y^2 and X^2.
   scheme X = with_generators({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
-  const transcript t = run([&](std::ostream&) { linid(X); });
+  const written t = by([&](std::ostream&) { linid(X); });
   EXPECT_EQ(t.err, "I_X has 2 generators of degree 2\n\n" + line);
   EXPECT_EQ(X.linres[0], (std::vector<int>{2, 0}));
 }
@@ -64,7 +51,7 @@ TEST(Linid, WithoutPairsHasNoSyzygies) {
 TEST(Linid, OfNoPointsHasNothing) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators({});
-  const transcript t = run([&](std::ostream&) { linid(X); });
+  const written t = by([&](std::ostream&) { linid(X); });
   EXPECT_EQ(t.err, "I_X has 0 generators of degree 0\n\n" + line);
   EXPECT_EQ(X.linres[0], (std::vector<int>{0, 0}));
   EXPECT_EQ(X.linid, 1);
@@ -73,14 +60,14 @@ TEST(Linid, OfNoPointsHasNothing) {
 TEST(Linid, IsComputedOnce) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators(triangle);
-  run([&](std::ostream&) { linid(X); });
-  EXPECT_EQ(run([&](std::ostream&) { linid(X); }).err, "");
+  by([&](std::ostream&) { linid(X); });
+  EXPECT_EQ(by([&](std::ostream&) { linid(X); }).err, "");
 }
 
 TEST(Linid, MakesTheMinimalGeneratorsItNeeds) {
   const ring_in_force ring(101, 2);
   scheme X = make_set(triangle);
-  run([&](std::ostream&) { linid(X); });
+  by([&](std::ostream&) { linid(X); });
   EXPECT_TRUE(X.min_Ix.has_value());
   EXPECT_EQ(X.linres[0], (std::vector<int>{3, 2}));
 }
@@ -88,7 +75,7 @@ TEST(Linid, MakesTheMinimalGeneratorsItNeeds) {
 TEST(Linid, LeavesTheDimensionAsItWas) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators(triangle);
-  run([&](std::ostream& out) { linsyz(out, X); });
+  by([&](std::ostream& out) { linsyz(out, X); });
   EXPECT_EQ(dim, 2);
 }
 
@@ -98,9 +85,9 @@ TEST(Linsyz, PrintsTheSyzygiesEachTimeAndMarksNothing) {
   // The generators are XY, Y^2 - YZ, X^2 - XZ.
   const std::string syzygies = "[ - Y + Z;\nX;\n 0 ]\n[ X - Z;\n 0;\n- Y ]\n";
   for (int round = 0; round < 2; ++round) {
-    const transcript t = run([&](std::ostream& out) { linsyz(out, X); });
+    const written t = by([&](std::ostream& out) { linsyz(out, X); });
     EXPECT_TRUE(t.err.starts_with("I_X has 3 generators"));
-    EXPECT_EQ(t.shown, syzygies);
+    EXPECT_EQ(t.given, syzygies);
     EXPECT_EQ(X.linid, 0);
     EXPECT_EQ(X.linres[0], (std::vector<int>{3, 2}));
   }
@@ -114,7 +101,7 @@ TEST(Linid, LeavesADotForWhatIsNoSyzygyEvenWhenQuiet) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators({{1, 2}, {4, 7}, {5, 3}, {8, 9}});
   verbose = 0;
-  const transcript t = run([&](std::ostream&) { linid(X); });
+  const written t = by([&](std::ostream&) { linid(X); });
   verbose = 1;
   EXPECT_EQ(t.out, ".");
   EXPECT_EQ(t.err, "");
@@ -125,11 +112,11 @@ TEST(Putlinid, WritesGeneratorsAndSyzygiesUnderHeadingsAndMarksThem) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators(triangle);
   for (int round = 0; round < 2; ++round) {
-    const transcript t = run([&](std::ostream& out) { putlinid(out, X); });
+    const written t = by([&](std::ostream& out) { putlinid(out, X); });
     EXPECT_TRUE(
-        t.shown.starts_with("\n1. matrix of linear resolution of I_X : \n1\n3\nXY\nY2-YZ\nX2-XZ\n"
+        t.given.starts_with("\n1. matrix of linear resolution of I_X : \n1\n3\nXY\nY2-YZ\nX2-XZ\n"
                             "\n2. matrix of linear resolution of I_X : \n3\n2\n"));
-    EXPECT_EQ(std::count(t.shown.begin(), t.shown.end(), '\n'), 17);
+    EXPECT_EQ(std::count(t.given.begin(), t.given.end(), '\n'), 17);
     EXPECT_TRUE(t.err.starts_with("I_X has 3 generators"));
     EXPECT_EQ(X.linid, 1);
   }
@@ -138,25 +125,25 @@ TEST(Putlinid, WritesGeneratorsAndSyzygiesUnderHeadingsAndMarksThem) {
 TEST(Putlinsyz, WritesTheSyzygiesWithoutHeadingsAndMarksNothing) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators(triangle);
-  const transcript t = run([&](std::ostream& out) { putlinsyz(out, X); });
-  EXPECT_TRUE(t.shown.starts_with("3\n2\n"));
-  EXPECT_EQ(std::count(t.shown.begin(), t.shown.end(), '\n'), 8);
+  const written t = by([&](std::ostream& out) { putlinsyz(out, X); });
+  EXPECT_TRUE(t.given.starts_with("3\n2\n"));
+  EXPECT_EQ(std::count(t.given.begin(), t.given.end(), '\n'), 8);
   EXPECT_EQ(X.linid, 0);
 }
 
 TEST(Putlinsyz, CountsVectorsThatWereDroppedInTheirLengths) {
   const ring_in_force ring(101, 2);
   scheme X = with_generators({{5, 7}});
-  const transcript one = run([&](std::ostream& out) { putlinsyz(out, X); });
-  EXPECT_TRUE(one.shown.starts_with("2\n1\n"));
+  const written one = by([&](std::ostream& out) { putlinsyz(out, X); });
+  EXPECT_TRUE(one.given.starts_with("2\n1\n"));
   const ring_in_force space(101, 3);
   scheme Y = with_generators(ten_points);
-  const transcript ten = run([&](std::ostream& out) { putlinsyz(out, Y); });
+  const written ten = by([&](std::ostream& out) { putlinsyz(out, Y); });
   EXPECT_EQ(Y.linres[0], (std::vector<int>{10, 15, 6}));
-  EXPECT_TRUE(ten.shown.starts_with("10\n15\n"));
+  EXPECT_TRUE(ten.given.starts_with("10\n15\n"));
   // 18 pairs made 15 syzygies: the vectors of the next level have length 18.
   EXPECT_NE(ten.err.find("[18][17]"), std::string::npos);
-  EXPECT_NE(ten.shown.find("\n18\n6\n"), std::string::npos);
+  EXPECT_NE(ten.given.find("\n18\n6\n"), std::string::npos);
 }
 
 TEST(DispLinid, ShowsZerosBeforeAnythingIsComputed) {
@@ -176,9 +163,9 @@ TEST(DispLinid, IsPartOfTheDisplayOnceTheNumbersAreThere) {
     return out.str();
   };
   EXPECT_EQ(record().find("I_X | "), std::string::npos);
-  run([&](std::ostream&) { linid(X); });
+  by([&](std::ostream&) { linid(X); });
   EXPECT_TRUE(record().ends_with(table_of_triangle));
-  run([&](std::ostream&) { linom(X); });
+  by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(record().find(table_of_triangle), std::string::npos);
   EXPECT_TRUE(record().ends_with(shown(disp_linres, X)));
 }
@@ -186,8 +173,8 @@ TEST(DispLinid, IsPartOfTheDisplayOnceTheNumbersAreThere) {
 TEST(Linid, OfMeaninglessPointsBreaksNothing) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
     scheme X = make_set(points);
-    run([&](std::ostream& out) { linsyz(out, X); });
-    run([&](std::ostream& out) { putlinid(out, X); });
+    by([&](std::ostream& out) { linsyz(out, X); });
+    by([&](std::ostream& out) { putlinid(out, X); });
     EXPECT_EQ(X.linid, 1);
   });
 }

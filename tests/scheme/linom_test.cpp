@@ -4,6 +4,7 @@
 
 #include "scheme/display.h"
 #include "scheme/omega.h"
+#include "tests/scheme/computing.h"
 #include "tests/scheme/shown.h"
 #include "tests/scheme/special_sets.h"
 
@@ -23,24 +24,10 @@ scheme with_presentation(const std::vector<coordinates>& points) {
   return X;
 }
 
-struct transcript {
-  std::string shown;
-  std::string out;
-  std::string err;
-};
-
-template <class Compute>
-transcript run(Compute compute) {
-  const silence quiet;
-  std::ostringstream shown;
-  compute(shown);
-  return {shown.str(), quiet.out.text(), quiet.err.text()};
-}
-
 TEST(Linom, OfATriangleHasTwoGeneratorsAndThreeRelations) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation(triangle);
-  const transcript t = run([&](std::ostream&) { linom(X); });
+  const written t = by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(t.out, ".");
   EXPECT_EQ(t.err,
             "w_R has 2 generators in degree 0\n3 syzygies in degree -1 found\n"
@@ -54,7 +41,7 @@ TEST(Linom, OfATriangleHasTwoGeneratorsAndThreeRelations) {
 TEST(Linom, WithoutLinearRelationsHasItsGeneratorsAlone) {
   const ring_in_force ring;
   scheme X = with_presentation(points_of_frame());
-  const transcript t = run([&](std::ostream&) { linom(X); });
+  const written t = by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(t.err, "w_R has 1 generators in degree -1\n0 syzygies in degree -2 found\n\n" + line);
   EXPECT_EQ(X.linres[1], (std::vector<int>{0, 0, 1}));
 }
@@ -64,7 +51,7 @@ TEST(Linom, CountsTheGeneratorsOfLeastDegreeOnly) {
   // Three collinear points and two others: generators to Y, X and Z^2.
   scheme X = with_presentation({{0, 0, 0}, {0, 0, 1}, {0, 0, 2}, {0, 1, 0}, {1, 0, 0}});
   ASSERT_EQ(no_of_pr(X), 3);
-  run([&](std::ostream&) { linom(X); });
+  by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(X.linres[1], (std::vector<int>{1, 2, 1}));
 }
 
@@ -72,14 +59,14 @@ TEST(Linom, CountsTheGeneratorsOfLeastDegreeOnly) {
 TEST(Linom, OfOnePointGoesBeyondTheTable) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation({{5, 7}});
-  const transcript t = run([&](std::ostream&) { linom(X); });
+  const written t = by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(t.err,
             "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n"
             "eliminating syzygies ...\n[1]\n1 syzygies in degree -1 found\n\n" +
                 line);
   EXPECT_EQ(X.linres[1], (std::vector<int>{2, 1}));
-  const transcript file = run([&](std::ostream& out) { putlinom(out, X); });
-  EXPECT_EQ(file.shown,
+  const written file = by([&](std::ostream& out) { putlinom(out, X); });
+  EXPECT_EQ(file.given,
             "\n1. matrix of linear resolution of w_R : \n1\n2\nX-5Z\nY-7Z\n"
             "\n2. matrix of linear resolution of w_R : \n2\n1\n-Y+7Z\nX-5Z\n");
 }
@@ -87,7 +74,7 @@ TEST(Linom, OfOnePointGoesBeyondTheTable) {
 TEST(Linom, OfNoPointsHasNothing) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation({});
-  const transcript t = run([&](std::ostream&) { linom(X); });
+  const written t = by([&](std::ostream&) { linom(X); });
   EXPECT_TRUE(t.err.ends_with(
       "w_R has 0 generators in degree 0\n0 syzygies in degree -1 found\n\n" + line));
   EXPECT_EQ(X.linres[1], (std::vector<int>{0, 0}));
@@ -97,15 +84,15 @@ TEST(Linom, OfNoPointsHasNothing) {
 TEST(Linom, IsComputedOnce) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation(triangle);
-  run([&](std::ostream&) { linom(X); });
-  const transcript again = run([&](std::ostream&) { linom(X); });
+  by([&](std::ostream&) { linom(X); });
+  const written again = by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(again.out + again.err, "");
 }
 
 TEST(Linom, MakesThePresentationItNeeds) {
   const ring_in_force ring(101, 2);
   scheme X = make_set(triangle);
-  run([&](std::ostream&) { linom(X); });
+  by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(no_of_pr(X), 2);
   EXPECT_EQ(X.linres[1], (std::vector<int>{3, 2}));
 }
@@ -113,7 +100,7 @@ TEST(Linom, MakesThePresentationItNeeds) {
 TEST(Linom, LeavesTheDimensionAsItWas) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation(triangle);
-  run([&](std::ostream&) { linom(X); });
+  by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(dim, 2);
 }
 
@@ -121,9 +108,9 @@ TEST(Putlinom, WritesRelationsUnderHeadingsEachTimeAndMarksThem) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation(triangle);
   for (int round = 0; round < 2; ++round) {
-    const transcript t = run([&](std::ostream& out) { putlinom(out, X); });
-    EXPECT_TRUE(t.shown.starts_with("\n1. matrix of linear resolution of w_R : \n2\n3\n"));
-    EXPECT_EQ(std::count(t.shown.begin(), t.shown.end(), '\n'), 10);
+    const written t = by([&](std::ostream& out) { putlinom(out, X); });
+    EXPECT_TRUE(t.given.starts_with("\n1. matrix of linear resolution of w_R : \n2\n3\n"));
+    EXPECT_EQ(std::count(t.given.begin(), t.given.end(), '\n'), 10);
     EXPECT_EQ(t.out, ".");
     EXPECT_EQ(X.linom, 1);
   }
@@ -132,8 +119,8 @@ TEST(Putlinom, WritesRelationsUnderHeadingsEachTimeAndMarksThem) {
 TEST(Linomsyz, PrintsTheLinearRelationsAndStopsThere) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation({{5, 7}});
-  const transcript t = run([&](std::ostream& out) { linomsyz(out, X); });
-  EXPECT_EQ(t.shown, "[ X - 5Z ]\n[ Y - 7Z ]\n");
+  const written t = by([&](std::ostream& out) { linomsyz(out, X); });
+  EXPECT_EQ(t.given, "[ X - 5Z ]\n[ Y - 7Z ]\n");
   EXPECT_EQ(t.out, "");
   EXPECT_EQ(t.err, "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n" + line);
   EXPECT_EQ(X.linom, 0);
@@ -143,17 +130,17 @@ TEST(Linomsyz, PrintsTheLinearRelationsAndStopsThere) {
 TEST(Putlinomsyz, WritesTheLinearRelationsAndMarksNothing) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation({{5, 7}});
-  const transcript t = run([&](std::ostream& out) { putlinomsyz(out, X); });
-  EXPECT_EQ(t.shown, "1\n2\nX-5Z\nY-7Z\n");
+  const written t = by([&](std::ostream& out) { putlinomsyz(out, X); });
+  EXPECT_EQ(t.given, "1\n2\nX-5Z\nY-7Z\n");
   EXPECT_EQ(X.linom, 0);
 }
 
 TEST(Linomsyz, ShowsNothingWhereThereIsNoLinearRelation) {
   const ring_in_force ring;
   scheme X = with_presentation(points_of_frame());
-  EXPECT_EQ(run([&](std::ostream& out) { linomsyz(out, X); }).shown, "");
-  EXPECT_EQ(run([&](std::ostream& out) { putlinomsyz(out, X); }).shown, "");
-  EXPECT_EQ(run([&](std::ostream& out) { putlinom(out, X); }).shown, "");
+  EXPECT_EQ(by([&](std::ostream& out) { linomsyz(out, X); }).given, "");
+  EXPECT_EQ(by([&](std::ostream& out) { putlinomsyz(out, X); }).given, "");
+  EXPECT_EQ(by([&](std::ostream& out) { putlinom(out, X); }).given, "");
 }
 
 TEST(DispLinom, PadsAnEntryToTheWidthOfTheColumnWithItsIndex) {
@@ -184,7 +171,7 @@ TEST(DispLinres, ShowsBothStrandsWithWidthsForBoth) {
 TEST(DispLinom, IsPartOfTheDisplayWhenTheOtherStrandIsNotThere) {
   const ring_in_force ring(101, 2);
   scheme X = with_presentation(triangle);
-  run([&](std::ostream&) { linom(X); });
+  by([&](std::ostream&) { linom(X); });
   std::ostringstream out;
   out << X;
   EXPECT_TRUE(out.str().ends_with(table_of_triangle));
@@ -193,8 +180,8 @@ TEST(DispLinom, IsPartOfTheDisplayWhenTheOtherStrandIsNotThere) {
 TEST(Linom, OfMeaninglessPointsBreaksNothing) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
     scheme X = make_set(points);
-    run([&](std::ostream& out) { linomsyz(out, X); });
-    run([&](std::ostream& out) { putlinom(out, X); });
+    by([&](std::ostream& out) { linomsyz(out, X); });
+    by([&](std::ostream& out) { putlinom(out, X); });
     EXPECT_EQ(X.linom, 1);
   });
 }
