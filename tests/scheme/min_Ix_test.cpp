@@ -113,11 +113,15 @@ class plain_choice {
     for (int k = 0; k < std::min(n, rows); ++k) {
       const auto first = order.begin();
       while (!others_generate({first, first + k + 1})) {
-        if (k >= end - 1) return {first + k, order.end()};
+        if (k >= end - 1) {
+          order.erase(order.begin(), first + k);
+          return order;
+        }
         std::swap(order[at(k)], order[at(--end)]);
       }
     }
-    return {order.begin() + std::min(n, rows), order.end()};
+    order.erase(order.begin(), order.begin() + std::min(n, rows));
+    return order;
   }
 
  private:

@@ -158,8 +158,7 @@ TEST(SocleProperty, TypeIsTheDimensionOfTheSocle) {
 // Which elements stand for the socle of one degree, and in which order they are found.
 class plain_selection {
  public:
-  plain_selection(const plain_artinian& plain, int d) {
-    unknowns_ = plain.members(d);
+  plain_selection(const plain_artinian& plain, int d) : unknowns_(plain.members(d)) {
     const auto passed_over = [&](const exponents& e) {
       const std::vector<exponents> above = plain.members(d + 1);
       for (const exponents& v : plain.members(1)) {
