@@ -1,8 +1,9 @@
 // Opening files.
 #pragma once
 
+#include <cstdint>
 #include <ext/stdio_filebuf.h>
-#include <fstream>
+#include <istream>
 #include <ostream>
 #include <string>
 
@@ -13,9 +14,23 @@ namespace zep {
 // Asks for a file name and reads it, one word of any length. Throws end_of_input.
 std::string ask_filename(input& in);
 
-// Opens a file for reading; the stream is not open when that can't be done. A folder can't be
-// opened, nor can a name with a NUL, which the system would take for its end.
-std::ifstream open_for_reading(const std::string& name);
+// The standard library opens files with permissions and in modes of its own, but takes an open
+// descriptor in a buffer of its implementation.
+
+// A text file that is read.
+class source_file {
+ public:
+  // Opens the file. A folder can't be opened, nor can a name with a NUL, which the system would
+  // take for its end. A pipe is empty when nobody writes to it within a second. Check is_open.
+  explicit source_file(const std::string& name);
+
+  bool is_open() const { return buffer_.is_open(); }
+  std::istream& stream() { return stream_; }
+
+ private:
+  __gnu_cxx::stdio_filebuf<char> buffer_;
+  std::istream stream_;
+};
 
 // What becomes of the contents of a result file that exists.
 enum class existing_contents { drop, keep };
@@ -24,8 +39,12 @@ enum class existing_contents { drop, keep };
 class result_file {
  public:
   // Creates the file, readable for all and writable for owner and group unless the process's mask
-  // forbids it, or empties the one that exists or goes on behind its end. Check is_open.
+  // forbids it, or empties the one that exists or goes on behind its end. A pipe can't be opened
+  // when nobody reads it within a second. Check is_open.
   explicit result_file(std::string name, existing_contents existing = existing_contents::drop);
+  ~result_file();
+  result_file(const result_file&) = delete;
+  result_file& operator=(const result_file&) = delete;
 
   bool is_open() const { return buffer_.is_open(); }
   std::ostream& stream() { return stream_; }
@@ -33,12 +52,16 @@ class result_file {
   // Closes the file. Says on standard error when not everything was written.
   void close();
 
+  // For a process that ends while a result file is open: takes back what this run has written to
+  // it, so that no half of a result is left.
+  static void abandon();
+
  private:
   std::string name_;
-  // The standard library opens files with permissions of its own, but takes an open descriptor in
-  // this buffer of its implementation.
   __gnu_cxx::stdio_filebuf<char> buffer_;
   std::ostream stream_;
+  // Length of the file before anything was written.
+  std::int64_t length_before_ = 0;
 };
 
 }  // namespace zep

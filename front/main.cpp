@@ -21,5 +21,5 @@ int main() {
   } catch (const std::length_error&) {
     zep::mem_warn();
   }
-  return 0;
+  return zep::finish_output();
 }

@@ -8,6 +8,8 @@
 #include <iostream>
 #include <new>
 
+#include "front/files.h"
+
 namespace zep {
 
 namespace {
@@ -29,6 +31,7 @@ void* reallocate(void* old, std::size_t old_size, std::size_t size) {
 }  // namespace
 
 void mem_warn() {
+  result_file::abandon();
   std::cerr << "\nNew: can't allocate enough memory\n";
   std::exit(exhausted);
 }

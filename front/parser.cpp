@@ -43,8 +43,8 @@ void report_rest_of_line(session& z) {
 }  // namespace
 
 void parser(session& z) {
-  while (!z.quit) {
-    std::cout << "% ";
+  // Without an output there is nobody to work for.
+  while (!z.quit && std::cout << "% ") {
     try {
       carry_out(z, z.typed.word(identifier_length));
       report_rest_of_line(z);

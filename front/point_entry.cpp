@@ -113,12 +113,12 @@ void get_scheme(session& z) {
 void create(session& z) {
   auto identifier = reservation::read(z.typed, z.var);
   if (!identifier) return;
-  std::ifstream file = open_for_reading(ask_filename(z.typed));
+  source_file file(ask_filename(z.typed));
   if (!file.is_open()) {
     error(error_code::cannot_open_file);
     return;
   }
-  read_scheme(file, *identifier);
+  read_scheme(file.stream(), *identifier);
   std::cout << Line;
 }
 

@@ -20,13 +20,13 @@ TEST(Files, TheNameIsAskedForAndReadAsOneWord) {
 }
 
 TEST(Files, AFolderAndAMissingFileCantBeOpened) {
-  EXPECT_FALSE(open_for_reading("/").is_open());
-  EXPECT_FALSE(open_for_reading("/nowhere/at/all").is_open());
-  EXPECT_TRUE(open_for_reading("/dev/null").is_open());
+  EXPECT_FALSE(source_file("/").is_open());
+  EXPECT_FALSE(source_file("/nowhere/at/all").is_open());
+  EXPECT_TRUE(source_file("/dev/null").is_open());
 }
 
 TEST(Files, ANameIsNotCutAtANul) {
-  EXPECT_FALSE(open_for_reading(std::string("/dev/null\0more", 14)).is_open());
+  EXPECT_FALSE(source_file(std::string("/dev/null\0more", 14)).is_open());
 }
 
 }  // namespace
