@@ -32,3 +32,4 @@ need_packages() {
 build_packages=(g++ make cmake libgmp-dev)
 test_packages=(libgtest-dev libbenchmark-dev)
 lint_packages=(clang-format clang-tidy cppcheck)
+fuzz_packages=(clang libclang-rt-dev llvm)
