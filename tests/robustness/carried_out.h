@@ -1,0 +1,23 @@
+// Which commands a session carries out.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "front/command.h"
+
+namespace zep {
+
+using command_set = std::array<bool, no_of_commands>;
+
+// Carries the session out as the program does. In what it prints, an announcement precedes each
+// command that gets the identifier it asks for, if it asks for one.
+void announce_commands(const std::string& session);
+
+// Adds the commands announced there.
+void add_announced(const std::string& out, command_set& commands);
+
+// Names of the commands that are missing, with blanks between them.
+std::string missing_commands(const command_set& commands);
+
+}  // namespace zep
