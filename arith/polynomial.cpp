@@ -8,6 +8,7 @@
 
 #include "arith/ordering.h"
 #include "arith/output.h"
+#include "arith/paranoid.h"
 
 namespace zep {
 
@@ -84,6 +85,21 @@ polynomial::polynomial(const monom& m, Fp8 c) : term_{c == 0 ? monom() : m}, coe
 polynomial::polynomial(std::vector<monom> terms, std::vector<Fp8> coefs)
     : term_(std::move(terms)), coef_(std::move(coefs)) {
   if (term_.empty()) *this = polynomial(0);
+  ensure_terms();
+}
+
+// Sums compare affine parts only, so these tell.
+void polynomial::ensure_terms() const {
+  ensure("a polynomial has as many coefficients as terms",
+         [&] { return !term_.empty() && term_.size() == coef_.size(); });
+  ensure("the terms of a polynomial descend", [&] {
+    return std::adjacent_find(term_.begin(), term_.end(), [](const monom& a, const monom& b) {
+             return !monom_ordering_lt(b, a);
+           }) == term_.end();
+  });
+  ensure("no coefficient of several is zero", [&] {
+    return term_.size() == 1 || std::find(coef_.begin(), coef_.end(), Fp8(0)) == coef_.end();
+  });
 }
 
 polynomial& polynomial::operator=(int c) {
@@ -108,6 +124,7 @@ polynomial& polynomial::operator*=(Fp8 c) {
   if (c == 0) return *this = 0;
   for (Fp8& coef : coef_) coef *= c;
   drop_zero_terms();
+  ensure_terms();
   return *this;
 }
 
@@ -134,6 +151,7 @@ void polynomial::drop_zero_terms() {
 polynomial& polynomial::operator*=(const monom& m) {
   if (sign(*this) == 0) return *this;
   for (monom& term : term_) term *= m;
+  ensure_terms();
   return *this;
 }
 

@@ -51,6 +51,9 @@ class polynomial {
  private:
   friend void hom(polynomial& h, const polynomial& f);
 
+  // Checks what the class promises.
+  void ensure_terms() const;
+
   // Divisors of zero exist in a composite characteristic only; there a product may lose terms.
   void drop_zero_terms();
 

@@ -26,7 +26,7 @@ void open_closed_descriptors() {
 constexpr std::size_t stack_needed = std::size_t{1} << 18U;
 
 [[gnu::noinline]] void touch_stack() {
-  std::array<volatile char, stack_needed> space;
+  std::array<volatile char, stack_needed> space{};
   constexpr std::size_t smallest_page = 4096;
   for (std::size_t i = 0; i < space.size(); i += smallest_page) space[i] = 0;
 }

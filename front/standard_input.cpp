@@ -6,11 +6,14 @@
 #include <cerrno>
 #include <iostream>
 
+#include "arith/paranoid.h"
+
 namespace zep {
 
 namespace {
 
-constexpr std::size_t buffer_size = 1U << 16U;
+// One byte crosses every boundary there is.
+constexpr std::size_t buffer_size = paranoid ? 1 : std::size_t{1} << 16U;
 
 ssize_t read_some(char* buffer, std::size_t size) {
   while (true) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "arith/Fp8.h"
+#include "arith/paranoid.h"
 
 namespace zep {
 
@@ -55,6 +56,8 @@ class matrix {
 
  private:
   std::size_t offset(int i) const {
+    // The row behind the last one may be pointed at.
+    ensure("a row is one of the matrix", [&] { return i >= 0 && i <= rows_; });
     return static_cast<std::size_t>(i) * static_cast<std::size_t>(cols_);
   }
 

@@ -8,6 +8,7 @@
 #include "arith/index.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
+#include "scheme/consistency.h"
 #include "scheme/progress.h"
 #include "scheme/separators.h"
 
@@ -85,6 +86,7 @@ void beta_matrix(scheme& X) {
   forms.basis.resize(at(X.delta));
   X.beta_matrix = std::move(forms.beta);
   X.basis = std::move(forms.basis);
+  ensure_consistent(X);
 }
 
 void disp_beta_matrix(std::ostream& out, scheme& X) {

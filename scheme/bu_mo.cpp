@@ -8,6 +8,7 @@
 #include "arith/mmm.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
+#include "scheme/consistency.h"
 #include "scheme/hilbert.h"
 #include "scheme/progress.h"
 
@@ -185,6 +186,7 @@ void bu_mo(scheme& X) {
   X.pi = std::move(walk.pi);
   hilbert(X);
   X.has_bu_mo = true;
+  ensure_consistent(X);
 }
 
 void need_bu_mo(scheme& X) {

@@ -10,6 +10,7 @@
 #include "arith/index.h"
 #include "arith/output.h"
 #include "arith/ring.h"
+#include "scheme/consistency.h"
 #include "scheme/linear_strand.h"
 #include "scheme/min_Ix.h"
 #include "scheme/progress.h"
@@ -55,6 +56,7 @@ void compute(scheme& X, const level_action& act) {
   });
   report(Line);
   X.linres[0] = std::move(numbers);
+  ensure_consistent(X);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "arith/index.h"
 #include "arith/output.h"
 #include "arith/ring.h"
+#include "scheme/consistency.h"
 #include "scheme/linear_strand.h"
 #include "scheme/omega.h"
 #include "scheme/progress.h"
@@ -62,6 +63,7 @@ void compute(scheme& X, const level_report& act) {
   });
   report(Line);
   X.linres[1] = std::move(numbers);
+  ensure_consistent(X);
 }
 
 std::vector<int> reversed(std::vector<int> numbers) {

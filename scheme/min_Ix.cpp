@@ -10,6 +10,7 @@
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
+#include "scheme/consistency.h"
 #include "scheme/create_Can_Lf.h"
 
 namespace zep {
@@ -176,6 +177,7 @@ void min_Ix(scheme& X) {
     hom(generators.gen[m], groebner_element(X, chosen[m]));
   }
   X.min_Ix = std::move(generators);
+  ensure_consistent(X);
 }
 
 void disp_min(std::ostream& out, scheme& X) {

@@ -11,6 +11,7 @@
 #include "arith/output.h"
 #include "scheme/bu_mo.h"
 #include "scheme/canonical_forms.h"
+#include "scheme/consistency.h"
 #include "scheme/dual_module.h"
 #include "scheme/generator_elimination.h"
 #include "scheme/progress.h"
@@ -143,6 +144,7 @@ void omega(scheme& X) {
   count_down(storing, X.A_d_cols);
   storing.end_line();
   report(Line);
+  ensure_consistent(X);
 }
 
 void need_omega(scheme& X) {

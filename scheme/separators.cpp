@@ -8,6 +8,7 @@
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "scheme/bu_mo.h"
+#include "scheme/consistency.h"
 #include "scheme/hilbert.h"
 #include "scheme/progress.h"
 
@@ -45,6 +46,7 @@ void sep(scheme& X) {
   X.ev_q = matrix(0, 0);
   X.pi = std::vector<int>();
   hilbert2(X);
+  ensure_consistent(X);
 }
 
 void need_sep(scheme& X) {

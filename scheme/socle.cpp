@@ -10,6 +10,7 @@
 #include "arith/index.h"
 #include "arith/list.h"
 #include "arith/output.h"
+#include "scheme/consistency.h"
 #include "scheme/create_Can_Lf.h"
 
 namespace zep {
@@ -105,6 +106,7 @@ void socle(scheme& X) {
   ideal result(generators.no_of_items());
   for (polynomial& f : result.gen) generators.min_del(f);
   X.socle = std::move(result);
+  ensure_consistent(X);
 }
 
 void disp_socle(std::ostream& out, scheme& X) {
