@@ -2,7 +2,7 @@
 # Fails unless exhausted memory ends the program with status 10 and a message on standard error.
 #   out_of_memory.sh ZEP
 set -euo pipefail
-zep=$1
+zep=$(realpath "$1")
 message=$'\nNew: can\'t allocate enough memory'
 failed=0
 
@@ -23,6 +23,57 @@ try 'large tables' 100000 < <(printf 'quiet\nrandom A 20000\nbumo A\n')
 try 'many points' 100000 < <(printf 'dim 26\nrandom A 2147483647\n')
 try 'a long number' 30000 < <(printf 'get A 1\n1 '; pad 20000000 7; printf ' 1 1\n')
 try 'a long word' 30000 < <(printf 'scheme A '; pad 60000000 a; printf '\n')
+
+# Every computation, in all sizes of address space from one that is hardly enough for the program to
+# one that is enough for all: it ends in order or with the message, and a result file holds either
+# the whole result or nothing; that of putlinres may hold the part of putlinid.
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+exhausted=0
+
+# squeeze SET COMMAND: carries the command out on the set and writes the result if it has a file.
+squeeze() {
+  local limit status err
+  rm -f whole part result
+  printf 'quiet\n%s\n%s A whole\nputlinid A part\n' "$1" "$2" | "$zep" >/dev/null 2>&1
+  for ((limit = 8000; limit <= 24000; limit += 500)); do
+    rm -f result
+    status=0
+    err=$(printf 'quiet\n%s\n%s A result\n' "$1" "$2" |
+      (ulimit -v "$limit" && exec "$zep") 2>&1 >/dev/null) || status=$?
+    case $status in
+      0) ;;
+      10)
+        exhausted=$((exhausted + 1))
+        [[ "$err" == *"$message" ]] || status=message
+        if [ -s result ] && ! cmp -s whole result &&
+          ! { [ "$2" = putlinres ] && cmp -s part result; }; then
+          status='half a result'
+        fi
+        ;;
+      *) status="status $status" ;;
+    esac
+    case $status in
+      0 | 10) ;;
+      *)
+        printf '%s in %s KB: %s: %s\n' "$2" "$limit" "$status" "$(head -c 200 <<<"$err")"
+        failed=1
+        ;;
+    esac
+  done
+}
+
+for command in bumo sep betamat is_duf min socle omega linres linsyz \
+  putscheme putsep putgbasis putbeta putmin putomega putlinid putlinom putlinres write; do
+  squeeze 'random A 400' "$command"
+done
+squeeze $'dim 5\nrandom A 90' linres
+squeeze $'dim 5\nrandom A 90' putlinres
+if [ "$exhausted" -lt 60 ]; then
+  echo "memory was exhausted $exhausted times only"
+  failed=1
+fi
 
 # What is only reported or dropped needs no memory.
 if ! (printf 'list '; pad 40000000 a; printf '\n') | (ulimit -v 30000 && exec "$zep") >/dev/null; then

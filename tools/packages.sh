@@ -32,4 +32,5 @@ need_packages() {
 build_packages=(g++ make cmake libgmp-dev)
 test_packages=(libgtest-dev libbenchmark-dev)
 lint_packages=(clang-format clang-tidy cppcheck)
+coverage_packages=(gcovr)
 fuzz_packages=(clang libclang-rt-dev llvm)
