@@ -56,9 +56,15 @@ mkfifo idle
 # Once is enough: each time it is waited for.
 out=$(timeout 60 "$zep" <<<$'random A 6\nputsep A idle\nalpha A' 2>&1) || fail 'an idle pipe: status'
 [[ "$out" == *"can't open file"*"alpha = 2"*"$farewell"* ]] || fail 'an idle pipe is not reported'
+mkdir locked && chmod 555 locked
 if [ "$(id -u)" -ne 0 ]; then
-  mkdir locked && chmod 500 locked
   cant_be_opened 'an unwritable folder' locked/result
+elif command -v setpriv >/dev/null; then
+  # Root may write everywhere: somebody else tries, with a copy of the program that all may read.
+  chmod 755 . && cp "$zep" unprivileged && chmod 755 unprivileged
+  out=$(timeout 60 setpriv --reuid=65534 --regid=65534 --clear-groups ./unprivileged \
+    <<<$'random A 6\nputsep A locked/result\nalpha A' 2>&1) || fail 'an unwritable folder: status'
+  [[ "$out" == *"can't open file"*"alpha = 2"*"$farewell"* ]] || fail 'an unwritable folder: not reported'
 fi
 cant_be_written 'a full device' /dev/full
 mkdir tiny

@@ -50,7 +50,7 @@ std::string first_coordinate(dice& d, int characteristic) {
   }
 }
 
-const char* separator(dice& d) {
+std::string separator(dice& d) {
   constexpr std::array separators = {" ", " ", " ", " ", "  ", "\t", "\n", " \v", "\f"};
   return d.pick(separators);
 }

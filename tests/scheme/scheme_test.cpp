@@ -99,24 +99,6 @@ TEST(Scheme, FindsAProjectiveMonomialByItsAffinePart) {
   EXPECT_EQ(is_el_OO(X, t), 2);
 }
 
-TEST(MonomIndex, DoesNotFindWhatStandsBehindAGreaterMonomial) {
-  const ring_in_force ring(101, 3);
-  const monom x = variable(0);
-  const monom y = variable(1);
-  const monom z = variable(2);
-  const monom_index unsorted({y, x, z});
-  EXPECT_EQ(unsorted.find(y), 0);
-  EXPECT_EQ(unsorted.find(x), 1);
-  EXPECT_EQ(unsorted.find(z), -1);
-}
-
-TEST(MonomIndex, FindsTheFirstOfEqualMonomials) {
-  const ring_in_force ring(101, 3);
-  const monom x = variable(0);
-  EXPECT_EQ(monom_index({monom(), x, x}).find(x), 1);
-  EXPECT_EQ(monom_index().find(x), -1);
-}
-
 TEST(OverO, CombinationsListTheGreatestTermFirst) {
   const ring_in_force ring(101, 2);
   const std::vector<monom> O = {monom(), variable(1), variable(0)};
