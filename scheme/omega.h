@@ -8,7 +8,8 @@
 namespace zep {
 
 // Computes a minimal homogeneous presentation of the canonical module w_R, the dual over K[X_0] of
-// the coordinate ring R, and stores it in X. Reports its progress.
+// the coordinate ring R (Bruns, Herzog: Cohen-Macaulay rings, theorem 3.3.7), and stores it in X.
+// Reports its progress.
 void omega(scheme& X);
 
 // Makes sure that it exists. (For a scheme without points it is made every time.)

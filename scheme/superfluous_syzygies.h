@@ -12,7 +12,7 @@ namespace zep {
 // them, in their order, if it may be left out; all of those together may.
 //
 // A relation among the syzygies with a non-zero constant at one of them makes that one superfluous.
-// As in Schreyer's theorem the relations come from pairs of a common owner: for a member P and
+// As in Buchberger's criterion the relations come from pairs of a common owner: for a member P and
 // variables x_a, x_b that both take it to the border, x_a x_b P has two expressions by syzygies.
 // Nothing else is needed, and constants stand at syzygies of the pair's degree only, so that linear
 // algebra modulo X_0 decides, degree by degree.
