@@ -96,15 +96,18 @@ polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
   const Fp8* const row = S.coefs[r];
   std::vector<polynomial_row::term> sum;
   for (int k = 0; k < leads(S); ++k) {
+    if (row[k] == 0) continue;
     const auto& [exponent, owner, member, v] = W_.border(S.leading[at(k)]);
     add_multiple(sum, W_.factor(member) * variable(v), owner, row[k]);
   }
   for (int i = W_.begin(S.degree); i < W_.no_of_members(); ++i) {
+    const Fp8 c = row[leads(S) + i];
+    if (c == 0) continue;
     const int a = W_.owner(i);
     if (a == left_out && i == W_.candidate(a)) continue;
     monom factor = W_.factor(i);
     factor.set_exp(proj - 1, W_.degree_of_member(i) - S.degree);
-    add_multiple(sum, factor, a, row[leads(S) + i]);
+    add_multiple(sum, factor, a, c);
   }
   return {W_.no_of_candidates(), std::move(sum)};
 }
@@ -112,7 +115,6 @@ polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
 // Adds c * factor * candidate.
 void generator_elimination::add_multiple(std::vector<polynomial_row::term>& sum,
                                          const monom& factor, int candidate, Fp8 c) const {
-  if (c == 0) return;
   if (!is_eliminated(candidate)) {
     sum.push_back({factor, candidate, c});
     return;

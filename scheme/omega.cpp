@@ -58,8 +58,27 @@ std::vector<int> without_superfluous(const dual_module& W, const std::vector<int
   return kept;
 }
 
-// Puts the generators that remain into X.
-void store_generators(scheme& X, const dual_module& W, const generator_elimination& generators) {
+// The relations' entries at the generators that remain, no_of_pr of them, row by row. The columns
+// have entries at all candidates.
+std::vector<polynomial> relation_matrix(const generator_elimination& generators,
+                                        const std::vector<polynomial_row>& columns,
+                                        std::size_t no_of_pr) {
+  std::vector<polynomial> A_d(no_of_pr * columns.size());
+  for (std::size_t j = 0; j < columns.size(); ++j) {
+    std::vector<polynomial> entries = columns[j].entries();
+    std::size_t place = j;
+    for (std::size_t a = 0; a < entries.size(); ++a) {
+      if (generators.is_eliminated(static_cast<int>(a))) continue;
+      A_d[place] = std::move(entries[a]);
+      place += columns.size();
+    }
+  }
+  return A_d;
+}
+
+// Puts the candidates that remain and the relations into X; coldeg counts these by degree.
+void store(scheme& X, const dual_module& W, const generator_elimination& generators,
+           const std::vector<polynomial_row>& columns, std::vector<int> coldeg) {
   std::vector<int> pr;
   std::vector<int> pr_deg(at(std::max(X.sigma + 2, 0)));
   for (int a = 0; a < W.no_of_candidates(); ++a) {
@@ -67,26 +86,12 @@ void store_generators(scheme& X, const dual_module& W, const generator_eliminati
     pr.push_back(W.candidate(a));
     ++pr_deg[at(W.degree_of_member(W.candidate(a)))];
   }
+  std::vector<polynomial> A_d = relation_matrix(generators, columns, pr.size());
+
   X.pr = std::move(pr);
   X.pr_deg = std::move(pr_deg);
-}
-
-// Puts the columns, whose entries belong to all candidates, and their degrees into X.
-void store_relations(scheme& X, const generator_elimination& generators,
-                     const std::vector<polynomial_row>& columns, std::vector<int> coldeg) {
-  const int cols = static_cast<int>(columns.size());
-  std::vector<polynomial> A_d(X.pr.size() * columns.size());
-  for (int j = 0; j < cols; ++j) {
-    std::vector<polynomial> entries = columns[at(j)].entries();
-    std::size_t place = at(j);
-    for (std::size_t a = 0; a < entries.size(); ++a) {
-      if (generators.is_eliminated(static_cast<int>(a))) continue;
-      A_d[place] = std::move(entries[a]);
-      place += at(cols);
-    }
-  }
   X.A_d = std::move(A_d);
-  X.A_d_cols = cols;
+  X.A_d_cols = static_cast<int>(columns.size());
   X.A_d_maxdeg = static_cast<int>(coldeg.size()) - 1;
   X.A_d_coldeg = std::move(coldeg);
 }
@@ -120,8 +125,7 @@ void omega(scheme& X) {
          " projections found.\n" + Line);
 
   const progress rewriting("rewriting syzygies ...\n");
-  const std::vector<syzygies_of_degree> syzygies =
-      rewritten_syzygies(W, without_superfluous(W, leading));
+  std::vector<syzygies_of_degree> syzygies = rewritten_syzygies(W, without_superfluous(W, leading));
   count_down(rewriting, n);
   rewriting.end_line();
 
@@ -129,18 +133,17 @@ void omega(scheme& X) {
   generator_elimination generators(W);
   std::vector<polynomial_row> columns;
   std::vector<int> coldeg(1);
-  for (const syzygies_of_degree& S : syzygies) {
+  for (syzygies_of_degree& S : syzygies) {
     const std::size_t before = columns.size();
-    std::ranges::move(generators.eliminate(S), std::back_inserter(columns));
     coldeg.resize(at(W.top_degree() - S.degree + 1));
+    std::ranges::move(generators.eliminate(std::move(S)), std::back_inserter(columns));
     coldeg.back() = static_cast<int>(columns.size() - before);
   }
   count_down(eliminating, n);
   eliminating.end_line();
 
   const progress storing("rewriting syzygies ...\n");
-  store_generators(X, W, generators);
-  store_relations(X, generators, columns, std::move(coldeg));
+  store(X, W, generators, columns, std::move(coldeg));
   count_down(storing, X.A_d_cols);
   storing.end_line();
   report(Line);
