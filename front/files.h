@@ -8,6 +8,7 @@
 #include <string>
 
 #include "front/input.h"
+#include "front/open_file.h"
 
 namespace zep {
 
@@ -31,9 +32,6 @@ class source_file {
   __gnu_cxx::stdio_filebuf<char> buffer_;
   std::istream stream_;
 };
-
-// What becomes of the contents of a result file that exists.
-enum class existing_contents { drop, keep };
 
 // A text file that results are written to.
 class result_file {

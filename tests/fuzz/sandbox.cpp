@@ -1,5 +1,5 @@
-// Stands in for arith/division_by_zero.cpp and front/files.cpp: the linker takes these definitions
-// and leaves those of the libraries out.
+// Stands in for arith/division_by_zero.cpp and front/open_file.cpp: the linker takes these
+// definitions and leaves those of the libraries out.
 #include "tests/fuzz/sandbox.h"
 
 #include <fcntl.h>
@@ -60,17 +60,6 @@ std::string created(const std::string& name) {
   return path_of(file->second);
 }
 
-int open_result(const std::string& name, existing_contents existing) {
-  const std::string path = created(name);
-  const int position = existing == existing_contents::drop ? O_TRUNC : O_APPEND;
-  return path.empty() ? -1 : ::open(path.c_str(), O_WRONLY | O_CLOEXEC | position);
-}
-
-int open_source(const std::string& name) {
-  const auto file = files().find(name);
-  return file == files().end() ? -1 : ::open(path_of(file->second).c_str(), O_RDONLY | O_CLOEXEC);
-}
-
 // The tables keep what was computed for a larger characteristic before.
 void clear(Fp8::table& table) {
   for (auto& row : table) std::fill(std::begin(row), std::end(row), std::uint8_t{0});
@@ -110,25 +99,15 @@ void start_afresh() {
 
 void division_by_zero(std::string_view /*field*/) { throw division_fault(); }
 
-std::string ask_filename(input& in) {
-  std::cout << "enter filename : ";
-  return in.word();
+int open_result(const std::string& name, existing_contents existing) {
+  const std::string path = created(name);
+  const int position = existing == existing_contents::drop ? O_TRUNC : O_APPEND;
+  return path.empty() ? -1 : ::open(path.c_str(), O_WRONLY | O_CLOEXEC | position);
 }
 
-source_file::source_file(const std::string& name)
-    : buffer_(open_source(name), std::ios::in), stream_(&buffer_) {}
-
-result_file::result_file(std::string name, existing_contents existing)
-    : name_(std::move(name)),
-      buffer_(open_result(name_, existing), std::ios::out),
-      stream_(&buffer_) {}
-
-result_file::~result_file() = default;
-
-void result_file::close() {
-  const bool flushed = stream_.flush().good();
-  const bool closed = buffer_.close() != nullptr;
-  if (!flushed || !closed) std::cerr << "warning: can't write all of " << name_ << "\n";
+int open_source(const std::string& name) {
+  const auto file = files().find(name);
+  return file == files().end() ? -1 : ::open(path_of(file->second).c_str(), O_RDONLY | O_CLOEXEC);
 }
 
 }  // namespace zep
