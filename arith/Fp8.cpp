@@ -8,7 +8,7 @@
 namespace zep {
 
 int Fp8::prime = 101;
-std::uint16_t Fp8::reciprocal = 0x10000 / 101;
+std::uint32_t Fp8::reciprocal = 0xFFFFFFFF / 101;
 Fp8::table Fp8::add;
 Fp8::table Fp8::sub;
 Fp8::table Fp8::mul;
@@ -27,7 +27,7 @@ std::uint8_t inverse_or_zero(int b) {
 
 void Fp8::init() {
   Fp::prime = prime;
-  reciprocal = static_cast<std::uint16_t>(0x10000 / prime);
+  reciprocal = 0xFFFFFFFF / static_cast<std::uint32_t>(prime);
   for (int a = 0; a < prime; ++a) {
     for (int b = 0; b < prime; ++b) {
       add[a][b] = static_cast<std::uint8_t>((a + b) % prime);

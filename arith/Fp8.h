@@ -16,8 +16,8 @@ class Fp8 {
   using table = std::uint8_t[256][256];
 
   static int prime;
-  // floor(2^16 / prime), for reductions by multiplication over whole rows.
-  static std::uint16_t reciprocal;
+  // floor((2^32 - 1) / prime), for reductions by multiplication over whole rows.
+  static std::uint32_t reciprocal;
   static table add, sub, mul, div;
 
   // Fills the tables for the current `prime` (2 .. 251) and makes it the prime of Fp too. Elements

@@ -71,7 +71,7 @@ void clear_field() {
   clear(Fp8::mul);
   clear(Fp8::div);
   Fp8::prime = 101;
-  Fp8::reciprocal = 0x10000 / 101;
+  Fp8::reciprocal = 0xFFFFFFFF / 101;
   Fp::prime = 31991;
 }
 

@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <random>
+#include <string>
 #include <vector>
 
+#include "linalg/row_kernels.h"
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
@@ -13,8 +17,26 @@ namespace {
 
 using row = std::vector<Fp8>;
 
-const std::size_t lengths[] = {0, 1, 7, 8, 15, 16, 17, 31, 32, 33, 63, 64, 65, 1000};
-constexpr std::size_t margin = 16;
+// Around all widths of vectors, and of parts of them.
+const std::size_t lengths[] = {0,  1,  2,  3,  4,  5,  7,  8,  9,  15,  16,
+                               17, 23, 31, 32, 33, 47, 63, 64, 65, 100, 1000};
+// Offsets below it make up all alignments of a vector.
+constexpr std::size_t margin = 32;
+
+// Every test is run with every variant of the kernels.
+class RowOperations : public testing::TestWithParam<const row_kernels*> {
+ private:
+  const kernels_in_force forced_{*GetParam()};
+};
+
+std::string name_of(const testing::TestParamInfo<const row_kernels*>& variant) {
+  std::string name = variant.param->name;
+  std::replace_if(
+      name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, RowOperations, testing::ValuesIn(runnable_kernels()), name_of);
 
 bool is_prime(int p) {
   for (int d = 2; d < p; ++d) {
@@ -66,7 +88,7 @@ void expect_operations_agree(const row& a, const row& b, Fp8 c, std::size_t n, s
   ASSERT_TRUE(found == expected) << "scale, c = " << c << ", n = " << n;
 }
 
-TEST(RowOperations, AgreeWithTheTablesForEveryFactorPrimeAndLength) {
+TEST_P(RowOperations, AgreeWithTheTablesForEveryFactorPrimeAndLength) {
   std::mt19937 random(10);
   for (const int p : characteristics()) {
     const ring_in_force ring(p);
@@ -82,23 +104,24 @@ TEST(RowOperations, AgreeWithTheTablesForEveryFactorPrimeAndLength) {
   }
 }
 
-TEST(RowOperations, AgreeWithTheTablesAtEveryPairOfOffsets) {
+TEST_P(RowOperations, AgreeWithTheTablesAtEveryPairOfOffsets) {
   std::mt19937 random(11);
   for (const int p : {2, 3, 101, 251}) {
     const ring_in_force ring(p);
-    for (const std::size_t n : {15U, 33U, 64U}) {
+    for (const std::size_t n : {5U, 15U, 33U, 64U}) {
       const row a = padded_row(random, n);
       const row b = padded_row(random, n);
-      const Fp8 c(below(random, p));
-      for (std::size_t i = 0; i < margin; ++i) {
-        for (std::size_t j = 0; j < margin; ++j) expect_operations_agree(a, b, c, n, i, j);
+      for (const int c : {1, p - 1, below(random, p)}) {
+        for (std::size_t i = 0; i < margin; ++i) {
+          for (std::size_t j = 0; j < margin; ++j) expect_operations_agree(a, b, Fp8(c), n, i, j);
+        }
       }
     }
   }
 }
 
 // d + c * s for all s at once, row after row over all d and c.
-TEST(RowOperations, AxpyIsExactForEveryTripleOfElements) {
+TEST_P(RowOperations, AxpyIsExactForEveryTripleOfElements) {
   for (const int p : {2, 3, 101, 251}) {
     const ring_in_force ring(p);
     const auto n = static_cast<std::size_t>(p);
@@ -118,7 +141,7 @@ TEST(RowOperations, AxpyIsExactForEveryTripleOfElements) {
   }
 }
 
-TEST(RowOperations, PointwiseProductAgreesWithTheTables) {
+TEST_P(RowOperations, PointwiseProductAgreesWithTheTables) {
   std::mt19937 random(12);
   for (const int p : characteristics()) {
     const ring_in_force ring(p);
@@ -136,7 +159,7 @@ TEST(RowOperations, PointwiseProductAgreesWithTheTables) {
   }
 }
 
-TEST(RowOperations, PointwiseProductMayReplaceItsFactors) {
+TEST_P(RowOperations, PointwiseProductMayReplaceItsFactors) {
   std::mt19937 random(13);
   for (const int p : {2, 3, 101, 251}) {
     const ring_in_force ring(p);
@@ -165,7 +188,7 @@ Fp8 dot_with_tables(const Fp8* a, const Fp8* b, std::size_t n) {
   return sum;
 }
 
-TEST(RowOperations, DotAgreesWithTheTables) {
+TEST_P(RowOperations, DotAgreesWithTheTables) {
   std::mt19937 random(15);
   for (const int p : characteristics()) {
     const ring_in_force ring(p);
@@ -181,38 +204,11 @@ TEST(RowOperations, DotAgreesWithTheTables) {
   }
 }
 
-TEST(RowOperations, DotIsExactWhereItsSumsAreLargest) {
+TEST_P(RowOperations, DotIsExactWhereItsSumsAreLargest) {
   const ring_in_force ring(251);
   for (const std::size_t n : {32767U, 32768U, 32769U, 65536U, 100000U}) {
     const row greatest(n, Fp8(250));
     EXPECT_EQ(dot(greatest.data(), greatest.data(), n).value(), n % 251) << n;
-  }
-}
-
-TEST(RowOperations, FirstNonzeroFindsEveryPosition) {
-  std::mt19937 random(14);
-  const ring_in_force ring;
-  for (const std::size_t n : {0U, 1U, 7U, 8U, 9U, 15U, 16U, 17U, 31U, 33U, 65U}) {
-    for (std::size_t offset = 0; offset < 9; ++offset) {
-      for (std::size_t place = 0; place <= n; ++place) {
-        // Non-zero elements in front of the row and behind it must not be seen.
-        row data(offset + n + margin, Fp8(1));
-        for (std::size_t i = 0; i < n; ++i) data[offset + i] = Fp8(0);
-        for (std::size_t i = place; i < n; ++i) data[offset + i] = Fp8(below(random, 101));
-        if (place < n) data[offset + place] = Fp8(1 + below(random, 100));
-        ASSERT_EQ(first_nonzero(data.data() + offset, n), place) << "n = " << n;
-      }
-    }
-  }
-}
-
-TEST(RowOperations, FirstNonzeroSeesEveryBit) {
-  for (std::size_t place = 0; place < 20; ++place) {
-    for (const int value : {1, 2, 4, 8, 16, 32, 64, 128}) {
-      row data(20);
-      data[place] = Fp8(value);
-      ASSERT_EQ(first_nonzero(data.data(), data.size()), place) << value;
-    }
   }
 }
 

@@ -1,0 +1,34 @@
+#include "linalg/row_kernels.h"
+
+#include <gtest/gtest.h>
+
+namespace zep {
+namespace {
+
+TEST(RowKernels, TheFastestVariantIsInForce) {
+  EXPECT_EQ(&kernels_in_force::get(), runnable_kernels().back());
+}
+
+TEST(RowKernels, LookUpsAndPortableLoopsRunEverywhere) {
+  const auto runnable = runnable_kernels();
+  ASSERT_GE(runnable.size(), 2U);
+  EXPECT_EQ(runnable[0], &look_up_kernels);
+  EXPECT_EQ(runnable[1], &portable_kernels);
+}
+
+TEST(RowKernels, AVariantIsInForceAsLongAsItsGuardLives) {
+  const row_kernels* const before = &kernels_in_force::get();
+  {
+    const kernels_in_force outer(portable_kernels);
+    EXPECT_EQ(&kernels_in_force::get(), &portable_kernels);
+    {
+      const kernels_in_force inner(look_up_kernels);
+      EXPECT_EQ(&kernels_in_force::get(), &look_up_kernels);
+    }
+    EXPECT_EQ(&kernels_in_force::get(), &portable_kernels);
+  }
+  EXPECT_EQ(&kernels_in_force::get(), before);
+}
+
+}  // namespace
+}  // namespace zep
