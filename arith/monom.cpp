@@ -1,7 +1,6 @@
 #include "arith/monom.h"
 
 #include <algorithm>
-#include <charconv>
 #include <ostream>
 #include <type_traits>
 
@@ -98,21 +97,22 @@ std::size_t monom_hash::operator()(const monom& m) const {
   return static_cast<std::size_t>(h);
 }
 
-void append(std::string& text, const monom& m, text_form form) {
-  if (sign(m) == 0) {
-    text += '1';
-    return;
-  }
+char* write_variables(char* to, const monom& m, text_form form) {
   for (int i = 0; i < m.dim(); ++i) {
     const int e = m.exp(i);
     if (e == 0) continue;
-    text += varstring[at(i)];
+    *to++ = varstring[at(i)];
     if (e == 1) continue;
-    if (form == text_form::screen) text += '^';
-    std::array<char, 8> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), e).ptr;
-    text.append(digits.data(), end);
+    if (form == text_form::screen) *to++ = '^';
+    to = write_number(to, e);
   }
+  return to;
+}
+
+void append(std::string& text, const monom& m, text_form form) {
+  std::array<char, longest_monom> variables{};
+  text.append(variables.data(), write_variables(variables.data(), m, form));
+  if (sign(m) == 0) text += '1';
 }
 
 std::ostream& operator<<(std::ostream& out, const monom& m) {

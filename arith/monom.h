@@ -8,6 +8,7 @@
 #include <string>
 
 #include "arith/index.h"
+#include "arith/output.h"
 #include "arith/ring.h"
 
 namespace zep {
@@ -107,6 +108,11 @@ enum class text_form { screen, file };
 
 // Appends the monomial to `text`.
 void append(std::string& text, const monom& m, text_form form);
+
+// Writes the monomial from `to` on, the monomial 1 as nothing, as behind a
+// coefficient. Returns the end of what was written, at most longest_monom characters.
+char* write_variables(char* to, const monom& m, text_form form);
+constexpr std::size_t longest_monom = max_variables * (2 + longest_number);
 
 // Screen form.
 std::ostream& operator<<(std::ostream& out, const monom& m);

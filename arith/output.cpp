@@ -1,5 +1,7 @@
 #include "arith/output.h"
 
+#include <charconv>
+
 namespace zep {
 
 int LL = 80;
@@ -10,5 +12,7 @@ void set_line_length(int length) {
   LL = length;
   Line = std::string(static_cast<std::size_t>(length) - 1, '-') + "\n";
 }
+
+char* write_number(char* to, int n) { return std::to_chars(to, to + longest_number, n).ptr; }
 
 }  // namespace zep

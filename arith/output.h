@@ -1,6 +1,8 @@
 // The layout of everything that is printed: line length, separator line, output column.
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <string>
 
 namespace zep {
@@ -17,5 +19,10 @@ extern int counter;
 
 // Sets LL to `length` (at least 1) and cuts Line to it.
 void set_line_length(int length);
+
+// Writes n in decimal digits from `to` on, where there must be room for longest_number characters.
+// Returns the end of what was written.
+char* write_number(char* to, int n);
+constexpr std::size_t longest_number = std::numeric_limits<int>::digits10 + 2;
 
 }  // namespace zep

@@ -1,9 +1,11 @@
 #include "arith/polynomial.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "arith/ordering.h"
@@ -60,20 +62,20 @@ polynomial merged(const polynomial& a, const polynomial& b, Sign signed_coef) {
   return {std::move(term), std::move(coef)};
 }
 
-bool shows_coefficient(const monom& m, Fp8 absolute) { return absolute != 1 || sign(m) == 0; }
+// Room for a term with its sign.
+using term_text = std::array<char, 3 + longest_number + longest_monom>;
 
-// The coefficient without its sign, then the monomial, each where it is shown.
-void append_term(std::string& text, const monom& m, Fp8 absolute, text_form form) {
-  if (shows_coefficient(m, absolute)) text += std::to_string(absolute.value());
-  if (sign(m) != 0) append(text, m, form);
+// Writes the coefficient without its sign, then the monomial; a 1 where neither shows.
+char* write_term(char* to, const monom& m, Fp8 absolute, text_form form) {
+  char* const start = to;
+  if (absolute != 1) to = write_number(to, absolute.value());
+  to = write_variables(to, m, form);
+  if (to == start) *to++ = '1';
+  return to;
 }
 
-int term_width(const monom& m, Fp8 coef, bool first) {
-  const Fp8 absolute = abs(coef);
-  int width = 3;
-  if (first) width = sign(coef) < 1 ? 2 : 0;
-  if (shows_coefficient(m, absolute)) width += len(absolute);
-  return width + len(m);
+char* write_text(char* to, std::string_view text) {
+  return std::copy(text.begin(), text.end(), to);
 }
 
 }  // namespace
@@ -222,22 +224,25 @@ std::ostream& operator<<(std::ostream& out, const polynomial& f) {
     return out << " 0";
   }
   std::string text;
+  term_text term{};
   for (int i = 0; i < f.no_of_monoms(); ++i) {
     const bool first = i == 0;
     const bool negative = sign(f.coef(i)) < 1;
-    const int width = term_width(f.term(i), f.coef(i), first);
+    char* end = term.data();
+    if (!first) {
+      end = write_text(end, negative ? " - " : " + ");
+    } else if (negative) {
+      end = write_text(end, "- ");
+    }
+    end = write_term(end, f.term(i), abs(f.coef(i)), text_form::screen);
+    const int width = static_cast<int>(end - term.data());
     if (first || counter + width < LL - 1) {
       counter += width;
     } else {
       text += '\n';
       counter = width;
     }
-    if (first) {
-      if (negative) text += "- ";
-    } else {
-      text += negative ? " - " : " + ";
-    }
-    append_term(text, f.term(i), abs(f.coef(i)), text_form::screen);
+    text.append(term.data(), end);
   }
   return out << text;
 }
@@ -248,13 +253,16 @@ void polynomial::put(std::ostream& out) const {
     return;
   }
   std::string text;
+  term_text term{};
   for (int i = 0; i < no_of_monoms(); ++i) {
+    char* end = term.data();
     if (sign(coef(i)) < 1) {
-      text += '-';
+      *end++ = '-';
     } else if (i > 0) {
-      text += '+';
+      *end++ = '+';
     }
-    append_term(text, term(i), abs(coef(i)), text_form::file);
+    end = write_term(end, this->term(i), abs(coef(i)), text_form::file);
+    text.append(term.data(), end);
   }
   out << text;
 }
