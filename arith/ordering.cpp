@@ -20,7 +20,11 @@ int last_difference(const monom& a, const monom& b) {
   return 0;
 }
 
-int degree_difference(const monom& a, const monom& b) { return a.tot_deg() - b.tot_deg(); }
+int degree_difference(const monom& a, const monom& b) {
+  int difference = 0;
+  for (int i = 0; i < proj - 1; ++i) difference += a.exp(i) - b.exp(i);
+  return difference;
+}
 
 int homogenising_difference(const monom& a, const monom& b) {
   return a.exp(proj - 1) - b.exp(proj - 1);
