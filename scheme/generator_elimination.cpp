@@ -109,7 +109,7 @@ polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
     factor.set_exp(proj - 1, W_.degree_of_member(i) - S.degree);
     add_multiple(sum, factor, a, c);
   }
-  return {W_.no_of_candidates(), std::move(sum)};
+  return {W_.no_of_candidates(), sum};
 }
 
 // Adds c * factor * candidate.

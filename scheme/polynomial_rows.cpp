@@ -1,6 +1,8 @@
 #include "scheme/polynomial_rows.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <numeric>
 #include <utility>
 
 #include "arith/ordering.h"
@@ -12,9 +14,36 @@ namespace {
 
 using term = polynomial_row::term;
 
-bool same_place(const term& a, const term& b) { return a.column == b.column && a.m == b.m; }
+bool precedes(const term& a, const term& b) { return monom_ordering_lt(b.m, a.m); }
 
-bool precedes(const term& a, const term& b) { return a.m == b.m ? a.column < b.column : a.m > b.m; }
+// The terms column by column, those of a column as they stood.
+std::vector<term> by_column(int cols, const std::vector<term>& terms) {
+  std::vector<std::size_t> end(at(cols) + 1);
+  for (const term& t : terms) ++end[at(t.column) + 1];
+  std::partial_sum(end.begin(), end.end(), end.begin());
+  std::vector<term> sorted(terms.size());
+  for (const term& t : terms) sorted[end[at(t.column)]++] = t;
+  return sorted;
+}
+
+using position = std::vector<term>::iterator;
+
+position end_of_column(position first, position last) {
+  return std::find_if(first, last, [&](const term& t) { return t.column != first->column; });
+}
+
+// Puts the sum of terms of one column in front of them; returns its end.
+position sum_up(position first, position last) {
+  // Terms are mostly made in order, so looking is cheaper than sorting.
+  if (!std::is_sorted(first, last, precedes)) std::sort(first, last, precedes);
+  auto summed = first;
+  while (first != last) {
+    term sum = *first++;
+    while (first != last && !precedes(sum, *first)) sum.c += (first++)->c;
+    if (sum.c != 0) *summed++ = sum;
+  }
+  return summed;
+}
 
 std::vector<term> terms_of(const std::vector<polynomial>& entries) {
   std::vector<term> terms;
@@ -35,47 +64,36 @@ Fp8 leading_coefficient(const polynomial_row& row, int j) {
 
 }  // namespace
 
-polynomial_row::polynomial_row(int cols, std::vector<term> terms)
-    : cols_(cols), terms_(std::move(terms)) {
-  std::sort(terms_.begin(), terms_.end(), precedes);
-  auto summed = terms_.begin();
-  for (auto next = terms_.begin(); next != terms_.end();) {
-    term sum = *next++;
-    while (next != terms_.end() && same_place(*next, sum)) sum.c += (next++)->c;
-    if (sum.c != 0) *summed++ = sum;
+polynomial_row::polynomial_row(int cols, const std::vector<term>& terms)
+    : cols_(cols), terms_(by_column(cols, terms)) {
+  auto kept = terms_.begin();
+  for (auto column = terms_.begin(); column != terms_.end();) {
+    const auto end = end_of_column(column, terms_.end());
+    kept = std::move(column, sum_up(column, end), kept);
+    column = end;
   }
-  terms_.erase(summed, terms_.end());
-  terms_.shrink_to_fit();
+  terms_.erase(kept, terms_.end());
 }
 
 polynomial_row::polynomial_row(const std::vector<polynomial>& entries)
     : polynomial_row(static_cast<int>(entries.size()), terms_of(entries)) {}
 
 std::vector<polynomial> polynomial_row::entries() const {
-  std::vector<std::vector<monom>> monoms(at(cols_));
-  std::vector<std::vector<Fp8>> coefs(at(cols_));
-  for (const term& t : terms_) {
-    monoms[at(t.column)].push_back(t.m);
-    coefs[at(t.column)].push_back(t.c);
-  }
-  std::vector<polynomial> entries;
-  entries.reserve(at(cols_));
-  for (int j = 0; j < cols_; ++j) {
-    entries.emplace_back(std::move(monoms[at(j)]), std::move(coefs[at(j)]));
+  std::vector<polynomial> entries(at(cols_));
+  for (auto first = terms_.begin(); first != terms_.end();) {
+    std::vector<monom> monoms;
+    std::vector<Fp8> coefs;
+    const int column = first->column;
+    for (; first != terms_.end() && first->column == column; ++first) {
+      monoms.push_back(first->m);
+      coefs.push_back(first->c);
+    }
+    entries[at(column)] = polynomial(std::move(monoms), std::move(coefs));
   }
   return entries;
 }
 
-polynomial polynomial_row::entry(int j) const {
-  std::vector<monom> monoms;
-  std::vector<Fp8> coefs;
-  for (const term& t : terms_) {
-    if (t.column != j) continue;
-    monoms.push_back(t.m);
-    coefs.push_back(t.c);
-  }
-  return {std::move(monoms), std::move(coefs)};
-}
+polynomial polynomial_row::entry(int j) const { return entries()[at(j)]; }
 
 const polynomial_row::term* polynomial_row::leading_term(int j) const {
   const auto lead =
@@ -91,7 +109,7 @@ void polynomial_row::operator*=(Fp8 c) {
 void polynomial_row::subtract(Fp8 c, const polynomial_row& b) {
   std::vector<term> all = terms_;
   for (const term& t : b.terms_) all.push_back({t.m, t.column, -(c * t.c)});
-  *this = polynomial_row(cols_, std::move(all));
+  *this = polynomial_row(cols_, all);
 }
 
 void norm(polynomial_matrix& A, int i, int jj) {

@@ -8,9 +8,8 @@
 
 namespace zep {
 
-// A row of polynomials, most of them zero, as one list of the terms of all its entries: descending
-// in the order in force, on equal monomials by ascending column. So the first term is the pivot:
-// it leads the entry with the greatest leading monomial, the first such entry of several.
+// A row of polynomials, most of them zero, as one list of the terms of all its entries: entry by
+// entry, each descending in the order in force.
 //
 // All monomials of the rows that meet are of one kind, affine or projective. In one column, two
 // monomials with equal affine parts have equal powers of the homogenising variable.
@@ -26,15 +25,13 @@ class polynomial_row {
   // The zero row. Requires cols >= 0.
   explicit polynomial_row(int cols = 0) : cols_(cols) {}
   // The sum of the terms, in any order, also of one monomial in one column or with zeros.
-  polynomial_row(int cols, std::vector<term> terms);
+  polynomial_row(int cols, const std::vector<term>& terms);
   explicit polynomial_row(const std::vector<polynomial>& entries);
 
   // Number of entries.
   int cols() const { return cols_; }
   bool is_zero() const { return terms_.empty(); }
   const std::vector<term>& terms() const { return terms_; }
-  // Requires a row that is not zero.
-  const term& pivot() const { return terms_.front(); }
   // All entries.
   std::vector<polynomial> entries() const;
 
