@@ -25,4 +25,9 @@ static_assert((largest_element * largest_element + 1) * (largest_prime / 2) < 1U
 constexpr std::size_t products_in_a_sum = std::size_t{1} << 15U;
 static_assert(products_in_a_sum * largest_prime * largest_element + largest_element <= 0x7FFFFFFF);
 
+// So many products, and no more, are added to an element in a tile of a product of matrices: a
+// float holds the sum exactly.
+constexpr std::size_t products_in_a_tile = 256;
+static_assert(products_in_a_tile * largest_element * largest_element + largest_element < 1U << 24U);
+
 }  // namespace zep

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "linalg/product_tile.h"
 #include "linalg/residues.h"
 
 namespace zep {
@@ -29,6 +30,8 @@ struct row_kernels {
   // A number, perhaps negative, that is the sum of a[i] * b[i] modulo p; n is at most
   // products_in_a_sum, and a and b may be the same.
   std::int32_t (*dot)(const std::uint8_t* a, const std::uint8_t* b, std::size_t n, lane p);
+  // Adds a product of matrices to a tile. Null where adding multiples of rows one by one is faster.
+  tile_kernel* add_to_tile;
 };
 
 // One element after the other, with the tables of Fp8: what the other variants are measured by.

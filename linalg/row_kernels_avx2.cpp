@@ -119,7 +119,8 @@ constexpr row_kernels kernels = {.name = "AVX2",
                                  .scale = scale,
                                  .negate = negate,
                                  .pointwise_product = pointwise_product,
-                                 .dot = dot};
+                                 .dot = dot,
+                                 .add_to_tile = add_to_tile_with_avx2};
 
 }  // namespace
 

@@ -49,6 +49,7 @@ const row_kernels look_up_kernels = {.name = "look-ups",
                                      .scale = scale,
                                      .negate = negate,
                                      .pointwise_product = pointwise_product,
-                                     .dot = dot};
+                                     .dot = dot,
+                                     .add_to_tile = nullptr};
 
 }  // namespace zep

@@ -77,6 +77,7 @@ const row_kernels portable_kernels = {.name = "portable",
                                       .scale = scale,
                                       .negate = negate,
                                       .pointwise_product = pointwise_product,
-                                      .dot = dot};
+                                      .dot = dot,
+                                      .add_to_tile = nullptr};
 
 }  // namespace zep

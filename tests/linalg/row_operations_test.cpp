@@ -2,14 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
 #include <random>
-#include <string>
 #include <vector>
 
-#include "linalg/row_kernels.h"
 #include "tests/draw.h"
+#include "tests/linalg/variant_in_force.h"
 #include "tests/ring_in_force.h"
 
 namespace zep {
@@ -23,20 +20,9 @@ const std::size_t lengths[] = {0,  1,  2,  3,  4,  5,  7,  8,  9,  15,  16,
 // Offsets below it make up all alignments of a vector.
 constexpr std::size_t margin = 32;
 
-// Every test is run with every variant of the kernels.
-class RowOperations : public testing::TestWithParam<const row_kernels*> {
- private:
-  const kernels_in_force forced_{*GetParam()};
-};
-
-std::string name_of(const testing::TestParamInfo<const row_kernels*>& variant) {
-  std::string name = variant.param->name;
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-  return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Every, RowOperations, testing::ValuesIn(runnable_kernels()), name_of);
+class RowOperations : public variant_in_force {};
+INSTANTIATE_TEST_SUITE_P(Every, RowOperations, testing::ValuesIn(runnable_kernels()),
+                         name_of_variant);
 
 bool is_prime(int p) {
   for (int d = 2; d < p; ++d) {

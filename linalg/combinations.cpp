@@ -1,0 +1,130 @@
+#include "linalg/combinations.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "arith/index.h"
+#include "linalg/product_tile.h"
+#include "linalg/row_kernels.h"
+#include "linalg/row_operations.h"
+
+namespace zep {
+
+namespace {
+
+// c += a * b, tile by tile, for one stretch of the columns of a after the other.
+class tiled_product {
+ public:
+  tiled_product(std::span<Fp8* const> c, const matrix& a, std::span<const Fp8* const> b,
+                std::size_t n, tile_kernel* kernel)
+      : c_(c),
+        a_(a),
+        b_(b),
+        n_(n),
+        kernel_(kernel),
+        packed_a_((c.size() + tile_rows - 1) / tile_rows * tile_rows * products_in_a_tile),
+        packed_b_(products_in_a_tile * tile_cols) {}
+
+  void add() {
+    for (first_ = 0; first_ < b_.size(); first_ += products_in_a_tile) {
+      length_ = std::min(products_in_a_tile, b_.size() - first_);
+      pack_coefficients();
+      for (std::size_t x = 0; x < n_; x += tile_cols) {
+        pack_elements(x);
+        for (std::size_t i = 0; i < c_.size(); i += tile_rows) work_on_tile(i, x);
+      }
+    }
+  }
+
+ private:
+  void pack_coefficients() {
+    std::fill(packed_a_.begin(), packed_a_.end(), std::int16_t{0});
+    for (std::size_t i = 0; i < c_.size(); ++i) {
+      const std::size_t in_tile = i % tile_rows;
+      std::int16_t* const to = packed_a_.data() + (i - in_tile) * products_in_a_tile + 2 * in_tile;
+      const Fp8* const row = a_[static_cast<int>(i)] + first_;
+      for (std::size_t k = 0; k < length_; ++k) {
+        to[k / 2 * 2 * tile_rows + k % 2] = row[k].value();
+      }
+    }
+  }
+
+  void pack_elements(std::size_t x) {
+    for (std::size_t k = 0; k < length_; k += 2) {
+      std::int16_t* const to = packed_b_.data() + k * tile_cols;
+      const Fp8* const even = b_[first_ + k] + x;
+      if (k + 1 < length_ && x + tile_cols <= n_) {
+        interleave(to, even, b_[first_ + k + 1] + x);
+      } else {
+        const Fp8* const odd = k + 1 < length_ ? b_[first_ + k + 1] + x : nullptr;
+        interleave_edge(to, even, odd, std::min(tile_cols, n_ - x));
+      }
+    }
+  }
+
+  static void interleave(std::int16_t* to, const Fp8* even, const Fp8* odd) {
+    for (std::size_t y = 0; y < tile_cols; ++y) {
+      to[2 * y] = even[y].value();
+      to[2 * y + 1] = odd[y].value();
+    }
+  }
+
+  // There may be no odd row, and less than a whole tile.
+  static void interleave_edge(std::int16_t* to, const Fp8* even, const Fp8* odd,
+                              std::size_t width) {
+    std::fill_n(to, 2 * tile_cols, std::int16_t{0});
+    for (std::size_t y = 0; y < width; ++y) {
+      to[2 * y] = even[y].value();
+      if (odd != nullptr) to[2 * y + 1] = odd[y].value();
+    }
+  }
+
+  // The tile with row i and place x in its corner. What is missing to it is put beside.
+  void work_on_tile(std::size_t i, std::size_t x) {
+    std::array<std::array<Fp8, tile_cols>, tile_rows> beside{};
+    std::array<std::uint8_t*, tile_rows> rows{};
+    const std::size_t height = std::min(tile_rows, c_.size() - i);
+    const std::size_t width = std::min(tile_cols, n_ - x);
+    for (std::size_t k = 0; k < tile_rows; ++k) {
+      const bool inside = k < height && width == tile_cols;
+      if (k < height && !inside) std::copy_n(c_[i + k] + x, width, beside[k].data());
+      rows[k] = reinterpret_cast<std::uint8_t*>(inside ? c_[i + k] + x : beside[k].data());
+    }
+    kernel_(rows.data(), packed_a_.data() + i * products_in_a_tile, packed_b_.data(),
+            (length_ + 1) / 2, static_cast<lane>(Fp8::prime));
+    if (width == tile_cols) return;
+    for (std::size_t k = 0; k < height; ++k) std::copy_n(beside[k].data(), width, c_[i + k] + x);
+  }
+
+  std::span<Fp8* const> c_;
+  const matrix& a_;
+  std::span<const Fp8* const> b_;
+  std::size_t n_;
+  tile_kernel* kernel_;
+  // All rows of a and one column of tiles of b, for the stretch from first_ on.
+  std::vector<std::int16_t> packed_a_;
+  std::vector<std::int16_t> packed_b_;
+  std::size_t first_ = 0;
+  std::size_t length_ = 0;
+};
+
+// Packing pays from so many rows, and so many summands, on.
+constexpr std::size_t least_worth_packing = 16;
+
+}  // namespace
+
+void add_combinations(std::span<Fp8* const> c, const matrix& a, std::span<const Fp8* const> b,
+                      std::size_t n) {
+  tile_kernel* const add_to_tile = kernels_in_force::get().add_to_tile;
+  if (add_to_tile != nullptr && std::min(c.size(), b.size()) >= least_worth_packing) {
+    tiled_product(c, a, b, n, add_to_tile).add();
+    return;
+  }
+  for (std::size_t i = 0; i < c.size(); ++i) {
+    for (std::size_t k = 0; k < b.size(); ++k) axpy(c[i], b[k], a[static_cast<int>(i)][k], n);
+  }
+}
+
+}  // namespace zep
