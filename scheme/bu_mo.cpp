@@ -1,7 +1,9 @@
 #include "scheme/bu_mo.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iostream>
+#include <span>
 #include <utility>
 
 #include "arith/index.h"
@@ -11,6 +13,7 @@
 #include "scheme/consistency.h"
 #include "scheme/hilbert.h"
 #include "scheme/progress.h"
+#include "scheme/separator_table.h"
 
 namespace zep {
 
@@ -26,33 +29,29 @@ matrix transposed(const matrix& m) {
 }
 
 // The walk and what it has found so far.
-//
-// Member j of the triangular sequence is the pair of rows q[j] | ev_q[j], its coefficients over O
-// (none behind j) and its values at the points (0 before pi[j]). Reducing the monomial at hand is
-// subtracting multiples of such rows from the pair f | values.
 class monomial_walk {
  public:
-  explicit monomial_walk(const matrix& points)
-      : q(points.rows(), points.rows()),
-        ev_q(points.rows(), points.rows()),
-        s_(points.rows()),
+  monomial_walk(const matrix& points, const progress& countdown)
+      : separators(points.rows()),
+        s_(at(points.rows())),
         coordinates_(transposed(points)),
-        evaluations_(s_, s_),
-        values_(at(s_)),
-        f_(at(s_)) {
-    O.reserve(at(s_));
-    pi.reserve(at(s_));
+        countdown_(countdown) {
+    O.reserve(s_);
   }
 
   // The orders in use are compatible with degrees, so the monomials of one degree come from the
   // members of O of the degree before, which are all known by then.
-  void run(const progress& countdown) {
+  void run() {
     std::vector<mmm> candidates;
     if (s_ > 0) candidates.emplace_back();
     while (!candidates.empty()) {
-      const std::size_t first = O.size();
-      for (const mmm& m : candidates) examine(m, countdown);
-      candidates = multiples_of_members_from(first);
+      const std::size_t first_member = O.size();
+      const std::size_t first_outside = B.size();
+      values_before_ = std::exchange(values_, {});
+      decide(with_all_divisors_in_O(candidates));
+      std::sort(B.begin() + static_cast<std::ptrdiff_t>(first_outside), B.end());
+      candidates = multiples_of_members_from(first_member);
+      first_before_ = static_cast<int>(first_member);
     }
   }
 
@@ -60,17 +59,20 @@ class monomial_walk {
   std::vector<monom> B;
   std::vector<monom> leads;
   std::vector<std::vector<Fp8>> tails;
-  matrix q;
-  matrix ev_q;
-  std::vector<int> pi;
+  separator_table separators;
 
  private:
+  // So many candidates are decided together: enough for long combinations of rows, few against the
+  // number of points where memory matters.
+  static constexpr std::size_t batch = 128;
+
   int size() const { return static_cast<int>(O.size()); }
 
   // All products of a member of O from `first` on with a variable, ascending; `ins` counts the ways
   // to reach each of them.
   std::vector<mmm> multiples_of_members_from(std::size_t first) const {
     std::vector<mmm> products;
+    products.reserve((O.size() - first) * at(dim));
     for (int n = static_cast<int>(first); n < size(); ++n) {
       for (int k = 0; k < dim; ++k) products.push_back({O[at(n)] * variable(k), n, k, 1});
     }
@@ -87,93 +89,80 @@ class monomial_walk {
     return products;
   }
 
-  void examine(const mmm& m, const progress& countdown) {
-    const bool all_divisors_in_O = m.ins == m.t.vars();
-    if (!all_divisors_in_O) {
-      B.push_back(m.t);
-      return;
+  // The candidates that may lie in O. The others belong to the border and go there.
+  std::vector<mmm> with_all_divisors_in_O(const std::vector<mmm>& candidates) {
+    std::vector<mmm> open;
+    open.reserve(candidates.size());
+    for (const mmm& m : candidates) {
+      if (m.ins == m.t.vars()) {
+        open.push_back(m);
+      } else {
+        B.push_back(m.t);
+      }
     }
-    evaluate(m);
-    reduce();
-    const std::size_t pivot = first_nonzero(values_.data(), values_.size());
-    if (pivot < values_.size()) {
-      join(m.t, static_cast<int>(pivot));
-      countdown.count(s_ - (size() - 1));
-    } else {
-      B.push_back(m.t);
-      leads.push_back(m.t);
-      tails.emplace_back(f_.begin(), f_.begin() + size());
-    }
+    return open;
   }
 
-  // The values of m.t at the points, from those of the member that it was made from. They are kept
-  // in the row of `evaluations_` that t owns if it joins O.
-  void evaluate(const mmm& m) {
-    if (m.n < 0) {
-      std::fill(values_.begin(), values_.end(), Fp8(1));
-    } else {
-      pointwise_product(values_.data(), evaluations_[m.n], coordinates_[m.k], values_.size());
-    }
-    if (size() < s_) std::copy(values_.begin(), values_.end(), evaluations_[size()]);
-  }
-
-  // Clears the values at all pivots. The coefficients of f gather what was subtracted; that of the
-  // monomial itself is implied.
-  void reduce() {
-    std::fill(f_.begin(), f_.end(), Fp8(0));
-    for (int j = 0; j < size(); ++j) {
-      const int p = pi[at(j)];
-      const Fp8 c = -values_[at(p)];
-      axpy(values_.data() + p, ev_q[j] + p, c, at(s_ - p));
-      axpy(f_.data(), q[j], c, at(j + 1));
+  void decide(std::span<const mmm> candidates) {
+    while (!candidates.empty()) {
+      const std::size_t n = std::min(batch, candidates.size());
+      decide_batch(candidates.first(n));
+      candidates = candidates.subspan(n);
     }
   }
 
-  void join(const monom& t, int pivot) {
-    const int last = size();
-    O.push_back(t);
-    pi.push_back(pivot);
-    f_[at(last)] = 1;
-    Fp8 c = values_[at(pivot)];
-    c.invert();
-    scale(f_.data(), c, at(last + 1));
-    scale(values_.data() + pivot, c, at(s_ - pivot));
-    values_[at(pivot)] = 1;
-    std::copy(f_.begin(), f_.begin() + last + 1, q[last]);
-    std::copy(values_.begin(), values_.end(), ev_q[last]);
+  void decide_batch(std::span<const mmm> candidates) {
+    std::vector<std::vector<Fp8>> values;
+    values.reserve(candidates.size());
+    for (const mmm& m : candidates) values.push_back(values_of(m));
+    std::vector<separator_table::verdict> verdicts = separators.take(values);
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+      const monom& t = candidates[i].t;
+      if (verdicts[i].joined) {
+        O.push_back(t);
+        values_.push_back(std::move(values[i]));
+        countdown_.count(static_cast<int>(s_) - (size() - 1));
+      } else {
+        B.push_back(t);
+        leads.push_back(t);
+        tails.push_back(std::move(verdicts[i].tail));
+      }
+    }
   }
 
-  int s_;
+  // The values of m.t at the points, from those of the member that it was made from.
+  std::vector<Fp8> values_of(const mmm& m) const {
+    std::vector<Fp8> values(s_, Fp8(1));
+    if (m.n >= 0) {
+      pointwise_product(values.data(), values_before_[at(m.n - first_before_)].data(),
+                        coordinates_[m.k], s_);
+    }
+    return values;
+  }
+
+  std::size_t s_;
   matrix coordinates_;
-  // Row r: the values of O[r] at the points.
-  matrix evaluations_;
-  std::vector<Fp8> values_;
-  std::vector<Fp8> f_;
+  const progress& countdown_;
+  // The values of the members of the degree at hand; those of the degree before, and the position
+  // in O of the first of these.
+  std::vector<std::vector<Fp8>> values_;
+  std::vector<std::vector<Fp8>> values_before_;
+  int first_before_ = 0;
 };
-
-// Repeated points leave fewer than s pivots: lets the points that are left follow, so that pi is a
-// permutation all the same.
-void complete_permutation(std::vector<int>& pi, int s) {
-  std::vector<bool> used(at(s), false);
-  for (const int i : pi) used[at(i)] = true;
-  for (int i = 0; i < s; ++i) {
-    if (!used[at(i)]) pi.push_back(i);
-  }
-}
 
 }  // namespace
 
 void bu_mo(scheme& X) {
   const progress countdown("calculating triangular sequence ...\n");
-  monomial_walk walk(X.P);
-  walk.run(countdown);
+  monomial_walk walk(X.P, countdown);
+  walk.run();
   countdown.end_line();
   std::cout << Line;
 
   walk.O.resize(at(X.s));
-  complete_permutation(walk.pi, X.s);
   monom_index O_index(walk.O);
   monom_index B_index(walk.B);
+  matrix separator = walk.separators.separators();
   groebner_basis Ix(std::move(walk.leads), std::move(walk.tails));
 
   X.O = std::move(walk.O);
@@ -181,9 +170,7 @@ void bu_mo(scheme& X) {
   X.B = std::move(walk.B);
   X.B_index = std::move(B_index);
   X.Ix = std::move(Ix);
-  X.q = std::move(walk.q);
-  X.ev_q = std::move(walk.ev_q);
-  X.pi = std::move(walk.pi);
+  X.separator = std::move(separator);
   hilbert(X);
   X.has_bu_mo = true;
   ensure_consistent(X);

@@ -23,15 +23,11 @@ namespace zep {
 
 namespace {
 
-void count_down(const progress& report, int n) {
-  for (int remaining = n; remaining > 0; --remaining) report.count(remaining);
-}
-
 // The countdown runs over all monomials whose canonical forms enter the syzygies. Those of the
 // border are enough to have the others by multiplication.
 canonical_forms forms_of(const scheme& X, const std::vector<syzygy_monomial>& syzygies) {
   const progress forms("calculating canonical forms ...\n");
-  if (verbose != 0) count_down(forms, static_cast<int>(needed_monomials(X, syzygies).size()));
+  if (verbose != 0) forms.count_down(static_cast<int>(needed_monomials(X, syzygies).size()));
   canonical_forms R(quotient::R, X.O, X.O_index, X.B, X.B_index, *X.Ix);
   forms.end_line();
   report(Line);
@@ -126,7 +122,7 @@ void omega(scheme& X) {
 
   const progress rewriting("rewriting syzygies ...\n");
   std::vector<syzygies_of_degree> syzygies = rewritten_syzygies(W, without_superfluous(W, leading));
-  count_down(rewriting, n);
+  rewriting.count_down(n);
   rewriting.end_line();
 
   const progress eliminating("eliminating syzygies ...\n");
@@ -139,12 +135,12 @@ void omega(scheme& X) {
     std::ranges::move(generators.eliminate(std::move(S)), std::back_inserter(columns));
     coldeg.back() = static_cast<int>(columns.size() - before);
   }
-  count_down(eliminating, n);
+  eliminating.count_down(n);
   eliminating.end_line();
 
   const progress storing("rewriting syzygies ...\n");
   store(X, W, generators, columns, std::move(coldeg));
-  count_down(storing, X.A_d_cols);
+  storing.count_down(X.A_d_cols);
   storing.end_line();
   report(Line);
   ensure_consistent(X);

@@ -22,6 +22,10 @@ void progress::count(int remaining) const {
   std::cerr << item;
 }
 
+void progress::count_down(int n) const {
+  for (int remaining = n; remaining > 0; --remaining) count(remaining);
+}
+
 void progress::end_line() const { report("\n"); }
 
 }  // namespace zep

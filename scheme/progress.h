@@ -21,6 +21,9 @@ class progress {
   // Writes "[remaining]".
   void count(int remaining) const;
 
+  // Writes the countdown from n to 1 for what is done at once.
+  void count_down(int n) const;
+
   // Ends the line of the countdown.
   void end_line() const;
 };

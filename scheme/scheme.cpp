@@ -12,11 +12,9 @@ scheme::scheme(int ss)
     : s(std::max(ss, 0)),
       P(dim, s),
       O(at(s)),
-      q(0, 0),
-      ev_q(0, 0),
+      separator(0, 0),
       hilb_fct(at(s)),
       delta_fct(at(s)),
-      separator(0, 0),
       linres{std::vector<int>(at(dim)), std::vector<int>(at(dim))} {}
 
 polynomial groebner_element(const scheme& X, int g) { return X.Ix->gen(g, X.O); }

@@ -39,12 +39,9 @@ struct scheme {
   monom_index B_index;
   // The reduced Groebner basis of the vanishing ideal I(X).
   std::optional<groebner_basis> Ix;
-  // The triangular sequence, until the separators exist: s polynomials as rows over O; their
-  // values at the points as rows of ev_q, 0 before pi[j] and at every pi[k], k < j, 1 at pi[j]; the
-  // pivots pi, a permutation of the points.
-  matrix q;
-  matrix ev_q;
-  std::vector<int> pi;
+  // Row i holds, over O, the separator of point i: 1 at point i, 0 at the other points. Counts as
+  // computed from `sep` on. Repeated points leave rows of zeros.
+  matrix separator;
   // H(n) and delta H(n) for n = 0 .. s-1.
   std::vector<int> hilb_fct;
   std::vector<int> delta_fct;
@@ -53,12 +50,10 @@ struct scheme {
   int delta = 0;
   int alpha = 0;
 
-  // Made by `sep`, which releases q, ev_q and pi. ------------------------------------------------
+  // Made by `sep`. -------------------------------------------------------------------------------
 
-  // 1 once the separators exist.
+  // 1 once the separators count as computed.
   int sep = 0;
-  // Row i holds, over O, the separator of point i: 1 at point i, 0 at the other points.
-  matrix separator;
   // 1 if X has the Cayley-Bacharach property, is arithmetically Gorenstein. The socle can tell too.
   int is_CB = 0;
   int is_ar_Go = 0;

@@ -7,9 +7,9 @@
 
 namespace zep {
 
-// Turns the triangular sequence into the separators by back-substitution, releases it, and decides
-// the Cayley-Bacharach and Gorenstein properties (`hilbert2`). Writes progress, and Line to
-// standard output. Requires bu_mo; must not run twice on a scheme.
+// Lets the separators, which bu_mo finds on its way, count as computed, and decides the
+// Cayley-Bacharach and Gorenstein properties (`hilbert2`). Writes progress, and Line to standard
+// output. Requires bu_mo; must not run twice on a scheme.
 void sep(scheme& X);
 
 // Runs bu_mo and sep unless they have run.

@@ -50,17 +50,6 @@ TEST(Separators, LeaveStandardErrorAloneWhenQuiet) {
   EXPECT_EQ(quiet.err.text(), "");
 }
 
-TEST(Separators, ReplaceTheTriangularSequence) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {1, 0}});
-  const silence quiet;
-  need_sep(X);
-  EXPECT_EQ(X.sep, 1);
-  EXPECT_EQ(X.q.rows(), 0);
-  EXPECT_EQ(X.ev_q.rows(), 0);
-  EXPECT_TRUE(X.pi.empty());
-}
-
 TEST(Separators, BreakLongLinesBehindTheWidthOfTheLabel) {
   const ring_in_force ring(101, 3);
   std::mt19937 random(3);
