@@ -73,6 +73,7 @@ polynomial_row::polynomial_row(int cols, const std::vector<term>& terms)
     column = end;
   }
   terms_.erase(kept, terms_.end());
+  terms_.shrink_to_fit();
 }
 
 polynomial_row::polynomial_row(const std::vector<polynomial>& entries)
