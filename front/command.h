@@ -15,6 +15,9 @@ struct command_record {
   // At most 11 characters; matching looks at whole words of 12.
   const char* name;
   command_kind kind;
+  // What is typed behind the name, the identifier included, and what the command does, in a line.
+  const char* arguments;
+  const char* meaning;
   // Carries the command out; the identifier is meaningful where the kind asks for one.
   void (*action)(session& z, int identifier);
 };

@@ -4,7 +4,23 @@
 
 namespace zep {
 
+namespace {
+
+int errors = 0;
+
+}  // namespace
+
+void count_error() { ++errors; }
+
+int no_of_errors() { return errors; }
+
+void complain(std::string_view text) {
+  count_error();
+  std::cout << text;
+}
+
 void error(int code) {
+  count_error();
   switch (code) {
     case error_code::cannot_open_file:
       std::cout << "can't open file\n";

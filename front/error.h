@@ -1,5 +1,7 @@
-// User errors by number.
+// What the user did wrong.
 #pragma once
+
+#include <string_view>
 
 namespace zep {
 
@@ -19,5 +21,14 @@ constexpr int already_exists = 111;
 // Prints the text of a user error on standard output; nothing for an unknown number. 30 goes on
 // with the text of 31, and 31 with that of 102.
 void error(int code);
+
+// Prints the text of an error that has no number on standard output.
+void complain(std::string_view text);
+
+// For an error whose text is printed elsewhere.
+void count_error();
+
+// Number of errors that have been reported so far in this process.
+int no_of_errors();
 
 }  // namespace zep

@@ -7,6 +7,8 @@
 #include <iostream>
 #include <utility>
 
+#include "front/prompt.h"
+
 namespace zep {
 
 namespace {
@@ -17,7 +19,7 @@ result_file* open_file = nullptr;
 }  // namespace
 
 std::string ask_filename(input& in) {
-  std::cout << "enter filename : ";
+  prompt(filename_prompt);
   return in.word();
 }
 
@@ -33,7 +35,10 @@ result_file::result_file(std::string name, existing_contents existing)
   open_file = this;
 }
 
-result_file::~result_file() { open_file = nullptr; }
+result_file::~result_file() {
+  if (open_file == this) abandon();
+  open_file = nullptr;
+}
 
 void result_file::close() {
   const bool flushed = stream_.flush().good();

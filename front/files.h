@@ -50,8 +50,8 @@ class result_file {
   // Closes the file. Says on standard error when not everything was written.
   void close();
 
-  // For a process that ends while a result file is open: takes back what this run has written to
-  // it, so that no half of a result is left.
+  // Takes back what has been written to the file that is open, if there is one, so that no half of
+  // a result is left: for a process that ends there. A file that is not closed ends the same way.
   static void abandon();
 
  private:

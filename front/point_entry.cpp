@@ -10,6 +10,7 @@
 #include "arith/ring.h"
 #include "front/error.h"
 #include "front/files.h"
+#include "front/prompt.h"
 #include "linalg/equal_rows.h"
 
 namespace zep {
@@ -80,9 +81,9 @@ void read_scheme(std::istream& file, reservation& identifier) {
     }
     finish(identifier, points);
   } catch (const malformed_number&) {
-    std::cout << "malformed point file\n";
+    complain("malformed point file\n");
   } catch (const end_of_input&) {
-    std::cout << "malformed point file\n";
+    complain("malformed point file\n");
   }
 }
 
@@ -91,7 +92,7 @@ void read_scheme(std::istream& file, reservation& identifier) {
 void get_scheme(session& z) {
   auto identifier = reservation::read(z.typed, z.var);
   if (!identifier) return;
-  std::cout << "enter number of points : ";
+  prompt("enter number of points : ");
   try {
     const int n = z.typed.integer();
     point_buffer points;
@@ -103,9 +104,9 @@ void get_scheme(session& z) {
     }
     finish(*identifier, points);
   } catch (const malformed_number&) {
-    std::cout << "malformed number\n";
+    complain("malformed number\n");
   } catch (const end_of_input&) {
-    std::cout << "unexpected end of input\n";
+    complain("unexpected end of input\n");
     throw;
   }
 }

@@ -8,6 +8,7 @@
 
 #include "arith/output.h"
 #include "arith/ring.h"
+#include "front/error.h"
 #include "linalg/equal_rows.h"
 
 namespace zep {
@@ -42,16 +43,16 @@ std::optional<int> read_number_of_points(session& z) {
   try {
     const int n = z.typed.integer();
     if (n <= 0) {
-      std::cout << "number of points has to be greater than zero !\n";
+      complain("number of points has to be greater than zero !\n");
     } else if (!enough_points(z, n)) {
-      std::cout << "not enough points in the current range !\n";
+      complain("not enough points in the current range !\n");
     } else {
       return n;
     }
   } catch (const malformed_number&) {
-    std::cout << "malformed number\n";
+    complain("malformed number\n");
   } catch (const end_of_input&) {
-    std::cout << "unexpected end of input\n";
+    complain("unexpected end of input\n");
     throw;
   }
   return std::nullopt;

@@ -1,6 +1,8 @@
 // What one run of the program holds besides the ring in force.
 #pragma once
 
+#include <cstdint>
+
 #include "front/identifiers.h"
 #include "front/input.h"
 #include "front/random_integer.h"
@@ -10,8 +12,12 @@ namespace zep {
 // Upper border of random coordinates at the start.
 constexpr int default_range2 = 50;
 
+// The seed of the random points.
+constexpr std::uint32_t default_seed = 1234;
+
 struct session {
-  explicit session(std::istream& in) : typed(in) {}
+  // Reads from `in`, which must outlive it; random points follow from the seed.
+  explicit session(std::istream& in, std::uint32_t seed = default_seed) : typed(in), gen(seed) {}
 
   input typed;
   identifier_table var;
@@ -21,7 +27,10 @@ struct session {
   int range1 = 0;
   int range2 = default_range2;
   // Source of all random points. Never seeded anew, so the same commands draw the same points.
-  ACG gen{1234};
+  ACG gen;
+  // End the session behind the first command that reports an error; set when it has.
+  bool stop_on_error = false;
+  bool stopped = false;
 };
 
 }  // namespace zep

@@ -8,6 +8,8 @@
 #include "arith/ordering.h"
 #include "arith/output.h"
 #include "arith/ring.h"
+#include "front/error.h"
+#include "front/prompt.h"
 #include "scheme/progress.h"
 
 namespace zep {
@@ -28,9 +30,10 @@ bool is_prime(int n) {
 // at a time, so a larger ring never gets its names.
 std::string ask_names(input& in, long long needed) {
   while (true) {
-    std::cout << "enter " << needed << " identifiers for current ring : ";
+    prompt("enter " + std::to_string(needed) + " identifiers for current ring : ");
     std::string names = in.word(longest_names);
     if (static_cast<long long>(names.size()) >= needed) return names;
+    count_error();
     std::cerr << "not enough indentifiers\n";
   }
 }
@@ -80,7 +83,7 @@ void hello() {
 void characteristic(session& z) {
   const int n = z.typed.integer_or(0);
   if (n < 2 || n > largest_characteristic) {
-    std::cout << "characteristic has to be a prime (2 - 251) !\n";
+    complain("characteristic has to be a prime (2 - 251) !\n");
     return;
   }
   if (!is_prime(n)) std::cerr << "warning: " << n << " is not a prime\n";
@@ -95,7 +98,7 @@ void characteristic(session& z) {
 void set_dim(session& z) {
   const int n = z.typed.integer_or(0);
   if (n <= 1) {
-    std::cout << "\ndimension has to be greater than one !!!\n";
+    complain("\ndimension has to be greater than one !!!\n");
     return;
   }
   z.var.del_all(false);
@@ -117,10 +120,10 @@ void range(session& z) {
   show_range(z);
   int border = z.range1;
   while (border <= z.range1) {
-    std::cout << "enter upper border : ";
+    prompt("enter upper border : ");
     border = read_border(z);
     if (border <= z.range1) {
-      std::cout << "upper border must be greater than lower border !!!\n";
+      complain("upper border must be greater than lower border !!!\n");
     }
   }
   z.range2 = border;

@@ -1,0 +1,25 @@
+#include "front/prompt.h"
+
+#include <iostream>
+#include <utility>
+
+namespace zep {
+
+namespace {
+
+bool shown = true;
+std::string on_the_line;
+
+}  // namespace
+
+bool prompt(std::string_view text) {
+  on_the_line = text;
+  if (shown) std::cout << text;
+  return std::cout.good();
+}
+
+void show_prompts(bool on) { shown = on; }
+
+std::string take_prompt() { return std::exchange(on_the_line, {}); }
+
+}  // namespace zep
