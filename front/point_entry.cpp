@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "arith/ring.h"
 #include "front/error.h"
@@ -77,6 +78,7 @@ void read_scheme(std::istream& file, reservation& identifier) {
     if (n < 0) throw malformed_number();
     point_buffer points;
     for (int i = 0; i < n; ++i) {
+      heed_interrupt();
       points.read_point(in, "first coordinate as '1'\n", [] {});
     }
     finish(identifier, points);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "arith/ring.h"
 #include "front/error.h"
@@ -31,6 +32,7 @@ void draw_row(matrix& P, int i, RandomInteger& coordinate) {
 void redraw_duplicates(matrix& P, RandomInteger& coordinate) {
   equal_rows rows(P);
   while (const auto pair = rows.first_pair()) {
+    heed_interrupt();
     const int k = pair->second;
     const std::string before = equal_rows::contents(P, k);
     draw_row(P, k, coordinate);
@@ -74,9 +76,15 @@ void create_random(session& z, int (*fix)(matrix&)) {
   const std::optional<int> n = read_number_of_points(z);
   if (!n) return;
   auto X = std::make_unique<scheme>(*n);
-  RandomInteger coordinate(z.range1, z.range2, z.gen);
-  for (int i = fix(X->P); i < *n; ++i) draw_row(X->P, i, coordinate);
+  // An interrupt leaves the session's generator as it was.
+  ACG generator = z.gen;
+  RandomInteger coordinate(z.range1, z.range2, generator);
+  for (int i = fix(X->P); i < *n; ++i) {
+    heed_interrupt();
+    draw_row(X->P, i, coordinate);
+  }
   redraw_duplicates(X->P, coordinate);
+  z.gen = generator;
   identifier->fill(std::move(X));
   std::cout << Line;
 }

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "arith/ring.h"
 #include "front/into_file.h"
@@ -47,6 +48,7 @@ void write_polynomials(std::ostream& out, int n, Generator generator) {
 void write_points(std::ostream& out, const scheme& X) {
   out << proj << "\n" << X.s << "\n";
   for (int i = 0; i < X.s; ++i) {
+    heed_interrupt();
     out << 1 << "\n";
     for (const Fp8 x : X.P.row(i)) out << x << "\n";
   }
@@ -55,6 +57,7 @@ void write_points(std::ostream& out, const scheme& X) {
 void write_matrix(std::ostream& out, const matrix& m) {
   out << m.cols() << "\n" << m.rows() << "\n";
   for (int i = 0; i < m.rows(); ++i) {
+    heed_interrupt();
     for (const Fp8 x : m.row(i)) out << x << "\n";
   }
 }

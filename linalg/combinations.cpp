@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "linalg/product_tile.h"
 #include "linalg/row_kernels.h"
 #include "linalg/row_operations.h"
@@ -32,6 +33,7 @@ class tiled_product {
       length_ = std::min(products_in_a_tile, b_.size() - first_);
       pack_coefficients();
       for (std::size_t x = 0; x < n_; x += tile_cols) {
+        heed_interrupt();
         pack_elements(x);
         for (std::size_t i = 0; i < c_.size(); i += tile_rows) work_on_tile(i, x);
       }
@@ -123,7 +125,10 @@ void add_combinations(std::span<Fp8* const> c, const matrix& a, std::span<const 
     return;
   }
   for (std::size_t i = 0; i < c.size(); ++i) {
-    for (std::size_t k = 0; k < b.size(); ++k) axpy(c[i], b[k], a[static_cast<int>(i)][k], n);
+    for (std::size_t k = 0; k < b.size(); ++k) {
+      heed_interrupt();
+      axpy(c[i], b[k], a[static_cast<int>(i)][k], n);
+    }
   }
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "linalg/row_operations.h"
 
 namespace zep {
@@ -56,11 +57,13 @@ void triangulate(std::vector<compact_row>& rows, std::size_t width) {
   std::vector<int> row_with_pivot(width, -1);
   std::vector<Fp8> all(width);
   for (std::size_t i = 0; i < rows.size(); ++i) {
+    heed_interrupt();
     if (rows[i].is_zero()) continue;
     std::fill(all.begin(), all.end(), Fp8(0));
     rows[i].subtract_from(all.data(), -Fp8(1));
     std::size_t pivot = rows[i].pivot();
     while (pivot < width && row_with_pivot[pivot] >= 0) {
+      heed_interrupt();
       rows[at(row_with_pivot[pivot])].subtract_from(all.data(), all[pivot]);
       ++pivot;
       pivot += first_nonzero(all.data() + pivot, width - pivot);

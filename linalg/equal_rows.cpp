@@ -2,10 +2,15 @@
 
 #include <iterator>
 
+#include "arith/interrupt.h"
+
 namespace zep {
 
 equal_rows::equal_rows(const matrix& m) {
-  for (int i = 0; i < m.rows(); ++i) insert(contents(m, i), i);
+  for (int i = 0; i < m.rows(); ++i) {
+    heed_interrupt();
+    insert(contents(m, i), i);
+  }
 }
 
 std::optional<std::pair<int, int>> equal_rows::first_pair() const {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "linalg/row_operations.h"
 
 namespace zep {
@@ -22,6 +23,7 @@ class gauss_jordan {
   int run(int steps) {
     int free_unknowns = a_.cols();
     for (int k = 0; k < steps && find_pivot(k); ++k) {
+      heed_interrupt();
       if (--free_unknowns == 0) return 0;
       work_on_columns_from(k);
       normalise(k);
@@ -30,6 +32,7 @@ class gauss_jordan {
     const int rank = a_.cols() - free_unknowns;
     work_on_columns_from(rank);
     for (int k = rank - 2; k >= 0; --k) {
+      heed_interrupt();
       for (int j = k + 1; j < rank; ++j) subtract(k, j);
     }
     return free_unknowns;
@@ -43,6 +46,7 @@ class gauss_jordan {
   // Brings a non-zero entry to position (k, k): a row from below, or else, with another column.
   bool find_pivot(int k) {
     while (true) {
+      heed_interrupt();
       for (int i = k; i < a_.rows(); ++i) {
         if (row(i)[column(k)] != 0) {
           std::swap(row_index(k), row_index(i));
@@ -168,8 +172,12 @@ int rank(matrix m) {
 
 std::ostream& operator<<(std::ostream& out, const matrix& m) {
   std::vector<int> widths(static_cast<std::size_t>(m.cols()));
-  for (int j = 0; j < m.cols(); ++j) widths[at(j)] = width_of_column(m, j);
+  for (int j = 0; j < m.cols(); ++j) {
+    heed_interrupt();
+    widths[at(j)] = width_of_column(m, j);
+  }
   for (int i = 0; i < m.rows(); ++i) {
+    heed_interrupt();
     if (i > 0) out << empty_row(widths);
     print_row(out, m, i, widths);
   }

@@ -4,11 +4,13 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "linalg/row_operations.h"
 
 namespace zep {
 
 bool row_space::add(std::vector<Fp8> row) {
+  heed_interrupt();
   const std::size_t n = row.size();
   for (std::size_t j = 0; j < rows_.size(); ++j) {
     const std::size_t p = pivots_[j];

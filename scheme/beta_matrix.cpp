@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "scheme/consistency.h"
@@ -23,6 +24,7 @@ class leading_forms {
   explicit leading_forms(const scheme& X)
       : beta(X.delta, X.s), forms_(X.delta, X.s), of_basis_(X.delta, X.delta), in_basis_(at(X.s)) {
     for (int i = 0; i < X.s; ++i) {
+      heed_interrupt();
       const auto row = X.separator.row(i);
       std::copy(row.end() - X.delta, row.end(), forms_[i]);
     }
@@ -33,6 +35,7 @@ class leading_forms {
   void eliminate(int column) {
     int pivot = -1;
     for (int i = 0; i < beta.rows(); ++i) {
+      heed_interrupt();
       if (in_basis_[at(i)] || forms_[i][column] == 0) continue;
       if (pivot < 0) {
         pivot = i;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/mmm.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
@@ -114,7 +115,10 @@ class monomial_walk {
   void decide_batch(std::span<const mmm> candidates) {
     std::vector<std::vector<Fp8>> values;
     values.reserve(candidates.size());
-    for (const mmm& m : candidates) values.push_back(values_of(m));
+    for (const mmm& m : candidates) {
+      heed_interrupt();
+      values.push_back(values_of(m));
+    }
     std::vector<separator_table::verdict> verdicts = separators.take(values);
     for (std::size_t i = 0; i < candidates.size(); ++i) {
       const monom& t = candidates[i].t;

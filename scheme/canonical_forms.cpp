@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "arith/interrupt.h"
 #include "arith/ring.h"
 #include "linalg/row_operations.h"
 
@@ -22,7 +23,10 @@ canonical_forms::canonical_forms(quotient ring, const std::vector<monom>& O,
   set_table(O, O_index, B_index);
   forms_.reserve(B.size());
   origins_.reserve(B.size());
-  for (const monom& t : B) add_form(t, B_index, Ix);
+  for (const monom& t : B) {
+    heed_interrupt();
+    add_form(t, B_index, Ix);
+  }
 }
 
 int canonical_forms::begin(int d) const {
@@ -45,6 +49,7 @@ void canonical_forms::set_table(const std::vector<monom>& O, const monom_index& 
                                 const monom_index& B_index) {
   table_.reserve(at(begin_.back()) * at(dim_));
   for (int i = 0; i < begin_.back(); ++i) {
+    heed_interrupt();
     for (int v = 0; v < dim_; ++v) {
       const monom t = O[at(i)] * variable(v);
       const int position = O_index.find(t);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/ordering.h"
 #include "linalg/row_operations.h"
 
@@ -29,6 +30,7 @@ dual_module::dual_module(const std::vector<monom>& O, const canonical_forms& R,
   set_border();
   set_places();
   for (int i = no_of_members() - 1; i >= 0; --i) {
+    heed_interrupt();
     set_row(i);
     extend(i);
   }
@@ -61,6 +63,7 @@ void dual_module::set_products() {
 
 void dual_module::set_border() {
   for (int i = 0; i < no_of_members(); ++i) {
+    heed_interrupt();
     for (int v = 0; v < dim_; ++v) {
       if (times(i, v).is_member) continue;
       const monom exponent = O_[at(i)] / variable(v);
@@ -73,9 +76,11 @@ void dual_module::set_border() {
     return aff_eq(a.exponent, b.exponent) ? a.owner > b.owner : a.exponent > b.exponent;
   });
   for (int b = 0; b < no_of_border(); ++b) {
+    heed_interrupt();
     border_index_[{border(b).exponent, border(b).owner}] = b;
   }
   for (int i = 0; i < no_of_members(); ++i) {
+    heed_interrupt();
     for (int v = 0; v < dim_; ++v) {
       product& p = products_[at(i) * at(dim_) + at(v)];
       if (!p.is_member) p.position = find(O_[at(i)] / variable(v), owner(i));
@@ -132,6 +137,7 @@ int dual_module::find(const monom& exponent, int owner) const {
 
 // Member i is its projection and projections behind it.
 std::vector<Fp8> dual_module::canonical_form(int b, int members) const {
+  heed_interrupt();
   std::vector<Fp8> row(at(members));
   multiply(row.data(), border(b).member, border(b).variable, members);
   for (int i = begin(degree(b)); i < members; ++i) {

@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "arith/interrupt.h"
 #include "arith/ordering.h"
 #include "arith/ring.h"
 
@@ -21,6 +22,7 @@ std::map<monom, std::uint32_t, descending> numbered_monomials(
     const std::vector<std::vector<polynomial>>& components) {
   std::map<monom, std::uint32_t, descending> numbers;
   for (const std::vector<polynomial>& vector : components) {
+    heed_interrupt();
     for (const polynomial& f : vector) {
       for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) numbers.emplace(f.term(i), 0);
     }
@@ -76,7 +78,7 @@ std::vector<monom> projective_variables() {
   return variables;
 }
 
-form_vectors vectors_of(const std::vector<std::vector<polynomial>>& components, int rank) {
+form_vectors vectors_of(std::vector<std::vector<polynomial>> components, int rank) {
   const auto numbers = numbered_monomials(components);
   std::vector<monom> monomials;
   monomials.reserve(numbers.size());
@@ -84,7 +86,8 @@ form_vectors vectors_of(const std::vector<std::vector<polynomial>>& components, 
   std::vector<compact_row> vectors;
   vectors.reserve(components.size());
   std::vector<Fp8> row(monomials.size() * at(rank));
-  for (const std::vector<polynomial>& vector : components) {
+  for (std::vector<polynomial>& vector : components) {
+    heed_interrupt();
     std::fill(row.begin(), row.end(), Fp8(0));
     for (int k = 0; k < rank; ++k) {
       const polynomial& f = vector[at(k)];
@@ -93,6 +96,7 @@ form_vectors vectors_of(const std::vector<std::vector<polynomial>>& components, 
       }
     }
     vectors.emplace_back(row);
+    vector = {};
   }
   return {std::move(monomials), rank, std::move(vectors)};
 }

@@ -53,7 +53,8 @@ class form_vectors {
 // The variables of the ring as projective monomials, descending: the monomials of linear forms.
 std::vector<monom> projective_variables();
 
-// The vectors with these components, `rank` each.
-form_vectors vectors_of(const std::vector<std::vector<polynomial>>& components, int rank);
+// The vectors with these components, `rank` each. The components are given up one by one on the
+// way: there may be millions.
+form_vectors vectors_of(std::vector<std::vector<polynomial>> components, int rank);
 
 }  // namespace zep

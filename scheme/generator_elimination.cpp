@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/ring.h"
 #include "linalg/row_operations.h"
 
@@ -57,6 +58,7 @@ std::vector<polynomial_row> generator_elimination::eliminate(syzygies_of_degree 
   const int n = S.coefs.rows();
   std::vector<int> eliminates(at(n), -1);
   for (int r = 0; r < n; ++r) {
+    heed_interrupt();
     const int a = constant_at(S, r);
     if (a < 0) continue;
     clear_column(S.coefs, r, leads(S) + W_.candidate(a));
@@ -97,12 +99,14 @@ polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
   std::vector<polynomial_row::term> sum;
   for (int k = 0; k < leads(S); ++k) {
     if (row[k] == 0) continue;
+    heed_interrupt();
     const auto& [exponent, owner, member, v] = W_.border(S.leading[at(k)]);
     add_multiple(sum, W_.factor(member) * variable(v), owner, row[k]);
   }
   for (int i = W_.begin(S.degree); i < W_.no_of_members(); ++i) {
     const Fp8 c = row[leads(S) + i];
     if (c == 0) continue;
+    heed_interrupt();
     const int a = W_.owner(i);
     if (a == left_out && i == W_.candidate(a)) continue;
     monom factor = W_.factor(i);

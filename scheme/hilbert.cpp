@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 
 namespace zep {
 
@@ -15,6 +16,7 @@ int separator_degree(const scheme& X, int i) {
 
 bool has_cayley_bacharach(const scheme& X) {
   for (int k = 1; k < X.s; ++k) {
+    heed_interrupt();
     if (separator_degree(X, k) != separator_degree(X, k - 1)) return false;
   }
   return true;

@@ -2,10 +2,15 @@
 
 #include <ostream>
 
+#include "arith/interrupt.h"
+
 namespace zep {
 
 std::ostream& operator<<(std::ostream& out, const ideal& I) {
-  for (const polynomial& f : I.gen) out << f << "\n";
+  for (const polynomial& f : I.gen) {
+    heed_interrupt();
+    out << f << "\n";
+  }
   return out;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "arith/Fp.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "scheme/bu_mo.h"
 #include "scheme/hilbert.h"
@@ -51,6 +52,7 @@ void groebner(std::ostream& out, scheme& X) {
   need_bu_mo(X);
   out << "Groebner basis of I(X) : \n";
   for (int i = 1; i <= X.Ix->no_of_gens(); ++i) {
+    heed_interrupt();
     counter = len(i) + 4;
     out << "g" << i << " = " << groebner_element(X, i - 1) << "\n";
   }

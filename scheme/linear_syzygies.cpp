@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <deque>
 #include <iostream>
 #include <numeric>
 #include <optional>
 #include <utility>
 
+#include "arith/interrupt.h"
 #include "arith/ordering.h"
 #include "arith/ring.h"
 #include "linalg/row_operations.h"
@@ -33,8 +35,10 @@ class product_numbers {
     }
     std::vector<std::uint32_t> order(products.size());
     std::iota(order.begin(), order.end(), 0U);
-    std::sort(order.begin(), order.end(),
-              [&](std::uint32_t a, std::uint32_t b) { return products[a] > products[b]; });
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+      heed_interrupt();
+      return products[a] > products[b];
+    });
     numbers_.resize(order.size());
     for (std::size_t k = 0; k < order.size(); ++k) {
       if (k == 0 || products[order[k]] != products[order[k - 1]]) ++size_;
@@ -87,7 +91,8 @@ class pair_reduction {
   // By place: the first multiple of a vector that starts there, and the index of the leftover.
   std::vector<multiple> multiple_at_;
   std::vector<int> leftover_at_;
-  std::vector<leftover> leftovers_;
+  // In pieces: as one they would be moved when they grow, many at a time.
+  std::deque<leftover> leftovers_;
   // The difference and the vector of one pair in full length; the latter by variable, then vector.
   std::vector<Fp8> W_;
   std::vector<Fp8> S_;
@@ -102,6 +107,7 @@ pair_reduction::pair_reduction(const form_vectors& G)
       W_(multiple_at_.size()),
       S_(multiples_.size()) {
   for (int l = G.count() - 1; l >= 0; --l) {
+    heed_interrupt();
     if (G.position(l) < 0) continue;
     for (int v = 0; v < proj; ++v) multiple_at_[place_of_first_term({l, v})] = {l, v};
   }
@@ -141,6 +147,7 @@ compact_row pair_reduction::syzygy(const linear_pair& pair) {
   subtract({pair.j, pair.times_j}, -Fp8(1));
   subtract({pair.i, pair.times_i}, Fp8(1));
   for (std::size_t place = 0;; ++place) {
+    heed_interrupt();
     place += first_nonzero(W_.data() + place, W_.size() - place);
     if (place == W_.size()) return compact_row(S_);
     if (leftover_at_[place] >= 0) {
@@ -173,6 +180,7 @@ void pair_reduction::keep(std::size_t pivot) {
 std::vector<linear_pair> pairs_of_generators(const form_vectors& G) {
   std::vector<linear_pair> pairs;
   for (int i = 0; i < G.count(); ++i) {
+    heed_interrupt();
     for (int j = i + 1; j < G.count(); ++j) {
       const monom& s = G.leading_monomial(i);
       const monom& t = G.leading_monomial(j);
@@ -197,6 +205,7 @@ std::vector<linear_pair> pairs_of_linear_vectors(const form_vectors& G) {
     const int position = G.position(i);
     if (position < 0) continue;
     const std::vector<int>& same = at_position[at(position)];
+    heed_interrupt();
     for (std::size_t k = ++taken[at(position)]; k < same.size(); ++k) {
       pairs.push_back({i, same[k], number_of_variable(G.leading_monomial(same[k])),
                        number_of_variable(G.leading_monomial(i))});

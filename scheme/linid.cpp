@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "arith/ring.h"
 #include "scheme/consistency.h"
@@ -25,10 +26,11 @@ namespace {
 form_vectors least_generators(const scheme& X) {
   std::vector<std::vector<polynomial>> generators;
   for (const polynomial& f : X.min_Ix->gen) {
+    heed_interrupt();
     if (f.term(0).tot_deg() != X.min_Ix->gen.front().term(0).tot_deg()) break;
     generators.push_back({f});
   }
-  return vectors_of(generators, 1);
+  return vectors_of(std::move(generators), 1);
 }
 
 void report_level(const scheme& X, int level, int number) {

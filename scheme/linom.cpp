@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "arith/ring.h"
 #include "scheme/consistency.h"
@@ -37,6 +38,7 @@ bool is_linear(const polynomial& f) {
 form_vectors linear_relations(const scheme& X, int rank) {
   std::vector<std::vector<polynomial>> relations;
   for (int j = 0; j < X.A_d_cols; ++j) {
+    heed_interrupt();
     std::vector<polynomial> last;
     last.reserve(at(rank));
     for (int i = no_of_pr(X) - rank; i < no_of_pr(X); ++i) {
@@ -44,7 +46,7 @@ form_vectors linear_relations(const scheme& X, int rank) {
     }
     if (std::any_of(last.begin(), last.end(), is_linear)) relations.push_back(std::move(last));
   }
-  return vectors_of(relations, rank);
+  return vectors_of(std::move(relations), rank);
 }
 
 void compute(scheme& X, const level_report& act) {

@@ -7,6 +7,7 @@
 
 #include "arith/Fp.h"
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
@@ -38,6 +39,7 @@ std::vector<neighbours> neighbour_pairs(const scheme& X) {
   std::vector<neighbours> pairs;
   const int n = X.Ix->no_of_gens();
   for (int i = 0; i < n; ++i) {
+    heed_interrupt();
     const monom& s = X.Ix->lead(i);
     for (int j = i + 1; j < n; ++j) {
       const monom& t = X.Ix->lead(j);
@@ -68,7 +70,10 @@ class constants_of_relations {
       while (g < X.Ix->no_of_gens() && X.Ix->lead(g).tot_deg() == d) ++g;
     }
     of_border_.reserve(X.B.size());
-    for (int b = 0; b < no_of_border(X); ++b) of_border_.push_back(border_row(b));
+    for (int b = 0; b < no_of_border(X); ++b) {
+      heed_interrupt();
+      of_border_.push_back(border_row(b));
+    }
   }
 
   // Every degree is smaller: members of O reach degree sigma + 1, relations two more.
@@ -156,6 +161,7 @@ std::vector<int> minimal_elements(const scheme& X) {
   std::vector<int> candidates(columns.end() - d, columns.end());
   std::vector<int> chosen;
   while (!candidates.empty()) {
+    heed_interrupt();
     const auto least = std::min_element(candidates.begin(), candidates.end(), [&](int g, int h) {
       return X.Ix->lead(g).tot_deg() < X.Ix->lead(h).tot_deg();
     });
@@ -174,6 +180,7 @@ void min_Ix(scheme& X) {
   const std::vector<int> chosen = minimal_elements(X);
   ideal generators(static_cast<int>(chosen.size()));
   for (std::size_t m = 0; m < chosen.size(); ++m) {
+    heed_interrupt();
     hom(generators.gen[m], groebner_element(X, chosen[m]));
   }
   X.min_Ix = std::move(generators);
@@ -186,6 +193,7 @@ void disp_min(std::ostream& out, scheme& X) {
       << X.min_Ix->no_of_gens() << " polynomials :\n";
   int m = 0;
   for (const polynomial& f : X.min_Ix->gen) {
+    heed_interrupt();
     counter = len(++m) + 6;
     out << "min" << m << " = " << f << "\n";
   }

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <utility>
 
+#include "arith/interrupt.h"
 #include "arith/ordering.h"
 #include "scheme/form_vectors.h"
 
@@ -68,6 +69,7 @@ polynomial_row::polynomial_row(int cols, const std::vector<term>& terms)
     : cols_(cols), terms_(by_column(cols, terms)) {
   auto kept = terms_.begin();
   for (auto column = terms_.begin(); column != terms_.end();) {
+    heed_interrupt();
     const auto end = end_of_column(column, terms_.end());
     kept = std::move(column, sum_up(column, end), kept);
     column = end;
@@ -127,7 +129,7 @@ std::vector<int> interreduce(polynomial_matrix& A) {
   std::vector<std::vector<polynomial>> entries;
   entries.reserve(A.size());
   for (const polynomial_row& row : A) entries.push_back(row.entries());
-  form_vectors vectors = vectors_of(entries, A.empty() ? 0 : A.front().cols());
+  form_vectors vectors = vectors_of(std::move(entries), A.empty() ? 0 : A.front().cols());
   vectors.interreduce();
   std::vector<int> Lt;
   for (int i = 0; i < vectors.count(); ++i) {

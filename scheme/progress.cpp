@@ -3,6 +3,8 @@
 #include <iostream>
 #include <string>
 
+#include "arith/interrupt.h"
+
 namespace zep {
 
 int verbose = 1;
@@ -23,7 +25,10 @@ void progress::count(int remaining) const {
 }
 
 void progress::count_down(int n) const {
-  for (int remaining = n; remaining > 0; --remaining) count(remaining);
+  for (int remaining = n; remaining > 0; --remaining) {
+    heed_interrupt();
+    count(remaining);
+  }
 }
 
 void progress::end_line() const { report("\n"); }

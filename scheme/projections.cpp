@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/ordering.h"
 
 namespace zep {
@@ -25,10 +26,13 @@ std::vector<syzygy_monomial> unpruned(const scheme& X, const std::vector<int>& c
   const int k = static_cast<int>(candidates.size());
   const auto t = [&](int a) -> const monom& { return X.O[at(candidates[at(a)])]; };
   std::vector<syzygy_monomial> all;
+  all.reserve(at(k) * at(k) / 2 + at(k) * at(dim));
   for (int a = 0; a < k; ++a) {
+    heed_interrupt();
     for (int b = a + 1; b < k; ++b) all.push_back({t(a) / gcd(t(a), t(b)), a});
   }
   for (int a = 0; a < k; ++a) {
+    heed_interrupt();
     for (int v = 0; v < dim; ++v) {
       monom power;
       power.set_exp(v, t(a).exp(v) + 1);
@@ -48,6 +52,7 @@ std::vector<int> minimal_ones(const std::vector<syzygy_monomial>& all, std::vect
   });
   std::vector<int> kept;
   for (const int i : indices) {
+    heed_interrupt();
     const bool dropped =
         std::any_of(kept.begin(), kept.end(), [&](int j) { return Zn_order_le(T(j), T(i)); });
     if (!dropped) kept.push_back(i);
@@ -60,6 +65,7 @@ std::vector<int> minimal_ones(const std::vector<syzygy_monomial>& all, std::vect
 std::vector<int> candidate_projections(const scheme& X) {
   std::vector<int> candidates;
   for (int i = 0; i < X.s; ++i) {
+    heed_interrupt();
     if (!is_filling(X, i) && is_maximal(X, X.O[at(i)])) candidates.push_back(i);
   }
   return candidates;
@@ -90,6 +96,7 @@ std::vector<monom> needed_monomials(const scheme& X, const std::vector<syzygy_mo
     if (is_el_OO(X, t) < 0) needed.insert(t);
   };
   for (std::size_t i = 0; i < X.O.size(); ++i) {
+    heed_interrupt();
     for (std::size_t j = i; j < X.O.size(); ++j) need(X.O[i] * X.O[j]);
   }
   monom_set outside;
@@ -97,10 +104,20 @@ std::vector<monom> needed_monomials(const scheme& X, const std::vector<syzygy_mo
     if (is_el_OO(X, syzygy.T) < 0) outside.insert(syzygy.T);
   }
   for (const monom& T : outside) {
+    heed_interrupt();
     for (const monom& t : X.O) need(T * t);
   }
-  std::vector<monom> ascending(needed.begin(), needed.end());
-  std::sort(ascending.begin(), ascending.end());
+  std::vector<monom> ascending;
+  ascending.reserve(needed.size());
+  // They may be so many that taking the set down, and sorting, take long.
+  while (!needed.empty()) {
+    heed_interrupt();
+    ascending.push_back(needed.extract(needed.begin()).value());
+  }
+  std::sort(ascending.begin(), ascending.end(), [](const monom& s, const monom& t) {
+    heed_interrupt();
+    return s < t;
+  });
   return ascending;
 }
 

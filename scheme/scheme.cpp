@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 
 namespace zep {
 
@@ -45,7 +46,10 @@ void disp_point(std::ostream& out, const matrix& P, int i) {
 }
 
 void disp_scheme(std::ostream& out, const scheme& X) {
-  for (int i = 0; i < X.s; ++i) disp_point(out, X.P, i);
+  for (int i = 0; i < X.s; ++i) {
+    heed_interrupt();
+    disp_point(out, X.P, i);
+  }
 }
 
 }  // namespace zep

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
 
@@ -36,6 +37,7 @@ std::vector<separator_table::verdict> separator_table::take(std::vector<std::vec
       separators_.push_back(std::move(values[i]));
       pivots_.push_back(taken[i].pivot);
     } else {
+      heed_interrupt();
       verdicts[i].tail = coefficients(values[i]);
     }
   }
@@ -97,6 +99,7 @@ void separator_table::reduce(std::span<const reduced_row> rows,
   subtracted.reserve(by.size());
   for (const reduced_row& f : by) subtracted.push_back(f.row);
   for (const reduced_row& t : rows) {
+    heed_interrupt();
     Fp8* const c = coefficients[static_cast<int>(reduced.size())];
     for (std::size_t j = 0; j < by.size(); ++j) {
       Fp8& value = t.row[by[j].pivot];
@@ -111,6 +114,7 @@ void separator_table::reduce(std::span<const reduced_row> rows,
 matrix separator_table::separators() const {
   matrix over_O(static_cast<int>(s_), static_cast<int>(s_));
   for (std::size_t j = 0; j < pivots_.size(); ++j) {
+    heed_interrupt();
     const std::vector<Fp8> row = coefficients(separators_[j]);
     std::copy(row.begin(), row.end(), over_O[pivots_[j]]);
   }

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "arith/Fp.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "scheme/bu_mo.h"
 #include "scheme/consistency.h"
@@ -16,8 +17,8 @@ void sep(scheme& X) {
   countdown.count_down(X.s);
   countdown.end_line();
   std::cout << Line;
-  X.sep = 1;
   hilbert2(X);
+  X.sep = 1;
   ensure_consistent(X);
 }
 
@@ -30,6 +31,7 @@ void separators(std::ostream& out, scheme& X) {
   need_sep(X);
   out << "separators of X : \n";
   for (int i = 0; i < X.s; ++i) {
+    heed_interrupt();
     counter = len(i + 1) + 4;
     out << "f" << i + 1 << " = " << separator_of(X, i) << "\n";
   }

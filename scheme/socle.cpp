@@ -8,6 +8,7 @@
 
 #include "arith/Fp.h"
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/list.h"
 #include "arith/output.h"
 #include "scheme/consistency.h"
@@ -39,6 +40,7 @@ class socle_finder {
     std::vector<int> rows = identity_order(system.rows());
     const int found = system.solve(columns, rows);
     for (int v = 0; v < found; ++v) {
+      heed_interrupt();
       const int free_column = columns[at(m - v - 1)];
       std::vector<Fp8> row(at(last + 1));
       row[at(last - free_column)] = 1;
@@ -69,6 +71,7 @@ class socle_finder {
     const int height = R_.dimension(d + 1);
     matrix system(m, static_cast<int>(variables_.size()) * height);
     for (int c = 0; c < m; ++c) {
+      heed_interrupt();
       int row = 0;
       for (const int v : variables_) {
         const auto [in_O, position] = R_.times(last - c, v);
@@ -104,7 +107,10 @@ void socle(scheme& X) {
   for (int d = top - 1; d >= std::max(X.alpha - 1, 1); --d) finder.add_generators(d, generators);
 
   ideal result(generators.no_of_items());
-  for (polynomial& f : result.gen) generators.min_del(f);
+  for (polynomial& f : result.gen) {
+    heed_interrupt();
+    generators.min_del(f);
+  }
   X.socle = std::move(result);
   ensure_consistent(X);
 }
@@ -115,6 +121,7 @@ void disp_socle(std::ostream& out, scheme& X) {
       << " polynomials :\n";
   int k = 0;
   for (const polynomial& f : X.socle->gen) {
+    heed_interrupt();
     counter = len(++k) + 6;
     out << "soc" << k << " = " << f << "\n";
   }

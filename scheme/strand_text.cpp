@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "scheme/vector_text.h"
 
 namespace zep {
@@ -14,6 +15,7 @@ namespace {
 template <class Use>
 void for_each_nonzero(const form_vectors& vectors, Use use) {
   for (int i = 0; i < vectors.count(); ++i) {
+    heed_interrupt();
     if (vectors.position(i) < 0) continue;
     const std::vector<polynomial> components = vectors.components(i);
     use([&](int k) -> const polynomial& { return components[at(k)]; });

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
 
@@ -54,7 +55,10 @@ class constants_of_degree {
       syzygy_[at(leading[i] - first_border)] = static_cast<int>(i);
     }
     of_border_.reserve(size);
-    for (int b = first_border; b < end_border; ++b) of_border_.push_back(border_row(b));
+    for (int b = first_border; b < end_border; ++b) {
+      heed_interrupt();
+      of_border_.push_back(border_row(b));
+    }
   }
 
   // The constants in x_w * (x_v * P) - x_v * (x_w * P), P a member that both take to the border.

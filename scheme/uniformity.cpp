@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "scheme/beta_matrix.h"
@@ -52,6 +53,7 @@ class subset_walk {
         chosen_(at(k)),
         nonzero_(at(m.rows())) {
     for (int i = 0; i + 1 < lower_; ++i) {
+      heed_interrupt();
       const int active = m.cols() - (k - 1 - i);
       places_.push_back({matrix(m.rows(), active), active});
     }
@@ -80,6 +82,7 @@ class subset_walk {
 
   // Chooses row c for place i, and all that can be chosen below it.
   bool choose(int i, int c) {
+    heed_interrupt();
     chosen_[at(i)] = c;
     const int pivot = at_place(i).pivot_of(c);
     if (pivot < 0) {
@@ -103,6 +106,7 @@ class subset_walk {
 
   // Reduces the rows below c of the upper table by row c, in place.
   void reduce_upper(int c, int pivot) {
+    heed_interrupt();
     matrix& columns = upper_.columns;
     const int last = --upper_.active;
     if (pivot != last) {

@@ -3,6 +3,7 @@
 
 #include <ostream>
 
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "arith/polynomial.h"
 
@@ -14,6 +15,7 @@ void show_vector(std::ostream& out, int n, Component component) {
   out << "[ ";
   counter = 2;
   for (int i = 0; i < n; ++i) {
+    heed_interrupt();
     if (i > 0) out << ";\n";
     out << component(i);
     counter = 0;
@@ -25,6 +27,7 @@ void show_vector(std::ostream& out, int n, Component component) {
 template <class Component>
 void put_vector(std::ostream& out, int n, Component component) {
   for (int i = 0; i < n; ++i) {
+    heed_interrupt();
     component(i).put(out);
     out << "\n";
   }
