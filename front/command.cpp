@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "arith/output.h"
 #include "front/error.h"
 #include "front/point_entry.h"
@@ -21,6 +22,7 @@
 #include "scheme/min_Ix.h"
 #include "scheme/omega.h"
 #include "scheme/progress.h"
+#include "scheme/results_before.h"
 #include "scheme/separators.h"
 #include "scheme/socle.h"
 #include "scheme/uniformity.h"
@@ -197,6 +199,18 @@ const std::array<command_record, no_of_commands> command = {{
 
 namespace {
 
+// Carries out what computes for X. An interrupt passes through and leaves X as it was.
+template <class Action>
+void leaving_nothing_half_done(scheme& X, Action action) {
+  const results_before before(X);
+  try {
+    action();
+  } catch (const interrupted&) {
+    before.restore(X);
+    throw;
+  }
+}
+
 // Reports an identifier that the command can't work with.
 bool accepts(const session& z, command_kind kind, int identifier) {
   if (kind == command_kind::nothing) return true;
@@ -228,7 +242,11 @@ void execute(session& z, int c, int identifier) {
   if (c < 0 || c >= no_of_commands) return;
   const command_record& todo = command[at(c)];
   if (!accepts(z, todo.kind, identifier)) return;
-  todo.action(z, identifier);
+  if (todo.kind == command_kind::scheme_identifier) {
+    leaving_nothing_half_done(z.var.object(identifier), [&] { todo.action(z, identifier); });
+  } else {
+    todo.action(z, identifier);
+  }
 }
 
 void help() {

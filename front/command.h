@@ -34,7 +34,8 @@ constexpr int display_command = 14;
 int find_command(const std::string& name);
 
 // Checks the identifier that command c asks for, reports what is wrong with it, or else carries the
-// command out. A number outside the table does nothing. `identifier` is an index of the table,
+// command out. A command that is interrupted leaves the scheme as it was, and lets `interrupted`
+// pass. A number outside the table does nothing. `identifier` is an index of the table,
 // unknown_identifier or no_identifier.
 void execute(session& z, int c, int identifier);
 

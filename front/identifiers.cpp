@@ -27,6 +27,14 @@ int identifier_table::find(const std::string& name) const {
 
 int identifier_table::first_free() const { return find(std::string()); }
 
+std::vector<std::string> identifier_table::names() const {
+  std::vector<std::string> used;
+  for (int i = 0; i < size; ++i) {
+    if (!entry(i).name.empty()) used.push_back(entry(i).name);
+  }
+  return used;
+}
+
 void identifier_table::del(int i, bool quiet) {
   if (!quiet) std::cout << entry(i).name << " deleted\n";
   entry(i) = record();

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "arith/index.h"
 #include "front/input.h"
@@ -38,6 +39,9 @@ class identifier_table {
 
   // The scheme of record i. Requires type scheme_type.
   scheme& object(int i) const { return *entry(i).object; }
+
+  // The names in use, in index order.
+  std::vector<std::string> names() const;
 
   // Frees record i and destroys its scheme; says so unless `quiet`.
   void del(int i, bool quiet);

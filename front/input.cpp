@@ -2,6 +2,7 @@
 
 #include <istream>
 #include <ostream>
+#include <streambuf>
 
 #include "arith/reading.h"
 
@@ -84,6 +85,11 @@ bool input::line_goes_on() {
 
 void input::copy_rest_of_line(std::ostream& out) {
   for (int c = peek(); c != end && c != '\n'; c = peek()) out.put(static_cast<char>(in_.get()));
+}
+
+void input::forget() {
+  in_.clear();
+  while (in_.rdbuf()->in_avail() > 0) in_.get();
 }
 
 void input::drop_rest_of_line() {

@@ -48,6 +48,9 @@ class input {
   void copy_rest_of_line(std::ostream& out);
   void drop_rest_of_line();
 
+  // Drops what has been typed already, and makes the stream usable again.
+  void forget();
+
  private:
   int peek();
   void settle();

@@ -3,23 +3,24 @@
 #include <stdexcept>
 
 #include "front/memory.h"
+#include "front/options.h"
 #include "front/process.h"
 #include "front/program.h"
-#include "front/standard_input.h"
 
-int main() {
+int main(int argc, char** argv) {
   zep::prepare_process();
   std::ios::sync_with_stdio(false);
   zep::install_mem_warn();
+  int status = 0;
   try {
-    zep::standard_input keyboard;
-    std::istream in(&keyboard);
-    zep::run_program(in);
+    const zep::command_line line = zep::read_command_line(argc, argv);
+    status = line.status ? *line.status : zep::run_program(line.chosen);
   } catch (const std::bad_alloc&) {
     // A size that no allocator is even asked for.
     zep::mem_warn();
   } catch (const std::length_error&) {
     zep::mem_warn();
   }
-  return zep::finish_output();
+  const int output_status = zep::finish_output();
+  return output_status != 0 ? output_status : status;
 }

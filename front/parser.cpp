@@ -4,8 +4,10 @@
 #include <string>
 
 #include "arith/index.h"
+#include "arith/interrupt.h"
 #include "front/command.h"
 #include "front/error.h"
+#include "front/prompt.h"
 
 namespace zep {
 
@@ -35,6 +37,7 @@ void carry_out(session& z, const std::string& word) {
 
 void report_rest_of_line(session& z) {
   if (!z.typed.line_goes_on()) return;
+  count_error();
   std::cout << "unexpected '";
   z.typed.copy_rest_of_line(std::cout);
   std::cout << "'\n";
@@ -44,11 +47,19 @@ void report_rest_of_line(session& z) {
 
 void parser(session& z) {
   // Without an output there is nobody to work for.
-  while (!z.quit && std::cout << "% ") {
+  while (!z.quit && prompt(command_prompt)) {
     try {
       carry_out(z, z.typed.word(identifier_length));
       report_rest_of_line(z);
     } catch (const end_of_input&) {
+      z.quit = true;
+    } catch (const interrupted&) {
+      std::cout.flush();
+      std::cerr << "interrupted\n";
+      z.typed.forget();
+    }
+    if (z.stop_on_error && no_of_errors() > 0) {
+      z.stopped = true;
       z.quit = true;
     }
   }

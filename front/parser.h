@@ -5,8 +5,9 @@
 
 namespace zep {
 
-// Prints prompts, reads commands and carries them out until one of them, or the end of the input,
-// ends the session.
+// Prints prompts, reads commands and carries them out until one of them, the end of the input, or
+// an error that is to stop it, ends the session. A command that is interrupted leaves nothing
+// behind.
 void parser(session& z);
 
 }  // namespace zep

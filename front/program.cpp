@@ -1,21 +1,88 @@
 #include "front/program.h"
 
+#include <fstream>
 #include <iostream>
+#include <optional>
 
 #include "arith/output.h"
 #include "front/parser.h"
+#include "front/prompt.h"
+#include "front/session_source.h"
 #include "front/settings.h"
+#include "front/transcript.h"
 
 namespace zep {
 
-void run_program(std::istream& in) {
-  session z(in);
+namespace {
+
+void greet(session& z, bool decorated) {
   set_defaults(z);
+  show_prompts(decorated);
+  if (!decorated) return;
   hello();
   show_settings();
-  parser(z);
+}
+
+void take_leave(session& z, bool decorated) {
   z.var.del_all(true);
-  std::cout << Line << "thanks for using ZEP\n" << Line;
+  if (decorated) std::cout << Line << "thanks for using ZEP\n" << Line;
+}
+
+// Carries out what the buffer reads, and repeats it on a stream if there is one.
+void carry_out(session& z, std::istream& in, std::streambuf& buffer, std::ostream* repeat) {
+  std::optional<repeated_input> repeated;
+  if (repeat != nullptr) repeated.emplace(buffer, *repeat);
+  in.rdbuf(repeated ? &*repeated : &buffer);
+  // What a buffer throws comes through.
+  in.exceptions(std::ios::badbit);
+  z.quit = false;
+  parser(z);
+  in.exceptions(std::ios::goodbit);
+  in.rdbuf(nullptr);
+}
+
+int carry_out_all(session& z, std::istream& in, const options& chosen, std::ostream* repeat) {
+  for (const source& s : chosen.sources) {
+    session_source opened(s, z.var);
+    if (!opened.is_open()) {
+      std::cerr << "zep: can't open " << s.text << "\n";
+      return 1;
+    }
+    carry_out(z, in, opened.buffer(), repeat);
+    if (z.stopped) return 1;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int run_program(const options& chosen) {
+  std::ofstream log;
+  std::optional<doubled_output> logged;
+  if (chosen.log) {
+    log.open(*chosen.log, std::ios::app);
+    if (!log) {
+      std::cerr << "zep: can't open " << *chosen.log << "\n";
+      return 1;
+    }
+    logged.emplace(std::cout, log);
+  }
+  std::istream in(nullptr);
+  session z(in, chosen.seed);
+  z.stop_on_error = chosen.stop_on_error;
+  greet(z, chosen.decorated);
+  // What goes to standard output is in the log already.
+  std::ostream* const repeat = chosen.echo ? &std::cout : chosen.log ? &log : nullptr;
+  const int status = carry_out_all(z, in, chosen, repeat);
+  take_leave(z, chosen.decorated);
+  return status;
+}
+
+void run_program(std::istream& in) {
+  session z(in);
+  greet(z, true);
+  parser(z);
+  take_leave(z, true);
 }
 
 }  // namespace zep

@@ -3,10 +3,17 @@
 
 #include <istream>
 
+#include "front/options.h"
+
 namespace zep {
 
-// Greets, carries out what the input says until `quit` or its end, and takes leave. Starts with the
-// default settings.
+// Greets, carries out one session after the other, each until `quit` or its end, and takes leave.
+// Starts with the default settings; what a session makes and sets is there in the next one. Returns
+// the exit status: 1 when a session can't be opened or an error is to end the program, and then no
+// later session is run; otherwise 0.
+int run_program(const options& chosen);
+
+// The same with one session and nothing chosen.
 void run_program(std::istream& in);
 
 }  // namespace zep

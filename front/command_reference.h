@@ -1,0 +1,11 @@
+// The commands in a list, made from the table of commands.
+#pragma once
+
+#include <iosfwd>
+
+namespace zep {
+
+// Prints each command on a line: its name and what is typed behind it, then what it does.
+void command_reference(std::ostream& out);
+
+}  // namespace zep

@@ -1,0 +1,53 @@
+#include "front/session_source.h"
+
+#include <unistd.h>
+
+#include <ext/stdio_filebuf.h>
+#include <ios>
+#include <sstream>
+#include <string>
+
+#include "front/completion.h"
+#include "front/interruption.h"
+#include "front/open_file.h"
+#include "front/standard_input.h"
+#include "front/terminal_input.h"
+
+namespace zep {
+
+namespace {
+
+std::unique_ptr<std::streambuf> file_buffer(const std::string& name) {
+  auto file = std::make_unique<__gnu_cxx::stdio_filebuf<char>>(open_source(name), std::ios::in);
+  if (!file->is_open()) return nullptr;
+  return file;
+}
+
+std::unique_ptr<std::streambuf> keyboard(const identifier_table& identifiers) {
+  if (::isatty(STDIN_FILENO) == 0 || ::isatty(STDOUT_FILENO) == 0) {
+    return std::make_unique<standard_input>();
+  }
+  catch_interrupts();
+  return std::make_unique<terminal_input>(
+      [&](const std::string& prompt, const std::string& before) {
+        return complete(identifiers, prompt, before);
+      });
+}
+
+}  // namespace
+
+session_source::session_source(const source& s, const identifier_table& identifiers) {
+  switch (s.from) {
+    case source::kind::standard_input:
+      buffer_ = keyboard(identifiers);
+      break;
+    case source::kind::file:
+      buffer_ = file_buffer(s.text);
+      break;
+    case source::kind::commands:
+      buffer_ = std::make_unique<std::stringbuf>(s.text, std::ios::in);
+      break;
+  }
+}
+
+}  // namespace zep

@@ -1,0 +1,27 @@
+// Where sessions come from.
+#pragma once
+
+#include <memory>
+#include <streambuf>
+
+#include "front/identifiers.h"
+#include "front/options.h"
+
+namespace zep {
+
+// An opened source of a session.
+class session_source {
+ public:
+  // Opens the source. Standard input gets line editing when it and standard output are a terminal,
+  // which offers names out of `identifiers`; these must outlive this.
+  session_source(const source& s, const identifier_table& identifiers);
+
+  bool is_open() const { return buffer_ != nullptr; }
+  // Requires an open source.
+  std::streambuf& buffer() { return *buffer_; }
+
+ private:
+  std::unique_ptr<std::streambuf> buffer_;
+};
+
+}  // namespace zep

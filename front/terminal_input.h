@@ -1,0 +1,30 @@
+// Lines typed at the terminal, as a stream buffer.
+#pragma once
+
+#include <streambuf>
+#include <string>
+
+#include "front/line_editor.h"
+
+namespace zep {
+
+// Reads one line after the other with the line editor, which it starts and ends. Where a command is
+// awaited, an interrupt clears the line; where something else is, underflow throws `interrupted`,
+// which only streams that report bad states by exceptions let pass. Once the input has ended it
+// stays ended.
+class terminal_input : public std::streambuf {
+ public:
+  explicit terminal_input(const completer& complete);
+  ~terminal_input() override;
+  terminal_input(const terminal_input&) = delete;
+  terminal_input& operator=(const terminal_input&) = delete;
+
+ protected:
+  int_type underflow() override;
+
+ private:
+  std::string line_;
+  bool ended_ = false;
+};
+
+}  // namespace zep

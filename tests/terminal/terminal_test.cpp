@@ -1,0 +1,230 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "tests/terminal/pseudo_terminal.h"
+
+namespace zep {
+namespace {
+
+const std::string backspace = "\x7f";
+const std::string ctrl_c = "\x03";
+const std::string ctrl_d = "\x04";
+const std::string start_of_line = "\x01";
+const std::string up = "\x1b[A";
+
+// Every test of these is run with the program and with the one that has no line editing.
+class Terminal : public testing::TestWithParam<const char*> {
+ protected:
+  pseudo_terminal zep_{{GetParam()}};
+
+  // The next prompt is on the screen, and the program awaits keys: line editing tells the terminal
+  // then that it wants to know what is pasted.
+  void await_prompt() { await_question("% "); }
+  void await_question(const std::string& text) {
+    ASSERT_TRUE(zep_.shows(text)) << zep_.shown();
+    if (edits_lines()) {
+      ASSERT_TRUE(zep_.shows("\x1b[?2004h")) << zep_.shown();
+    }
+  }
+  bool edits_lines() const { return GetParam() == std::string(ZEP_PROGRAM); }
+  void type_line(const std::string& line) { zep_.type(line + "\n"); }
+  void expect(const std::string& text) {
+    ASSERT_TRUE(zep_.shows(text)) << text << " in: " << zep_.shown();
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Every, Terminal, testing::Values(ZEP_PROGRAM, ZEP_PLAIN_PROGRAM),
+                         [](const auto& program) {
+                           return program.index == 0 ? "LineEditing" : "Plain";
+                         });
+
+TEST_P(Terminal, ShowsPromptsAndResults) {
+  await_prompt();
+  type_line("get A 1");
+  type_line("1 2 3 4");
+  expect("1. point entered : <1:2:3:4>");
+  await_prompt();
+  type_line("alpha A");
+  expect("alpha = 1");
+  await_prompt();
+  type_line("quit");
+  expect("thanks for using ZEP");
+  EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+TEST_P(Terminal, LeavesAtTheEndOfTheInput) {
+  await_prompt();
+  zep_.type(ctrl_d);
+  expect("thanks for using ZEP");
+  EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+TEST_P(Terminal, LeavesWhenTheInputEndsInsideACommand) {
+  await_prompt();
+  type_line("get A");
+  await_question("enter number of points : ");
+  zep_.type(ctrl_d);
+  expect("unexpected end of input");
+  expect("thanks for using ZEP");
+  EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+TEST_P(Terminal, ErasesWhatIsCorrected) {
+  await_prompt();
+  type_line("lisx" + backspace + "t");
+  await_prompt();
+  type_line("nothing");
+  expect("command or indentifier unknown");
+  EXPECT_EQ(zep_.shown().find("command or indentifier unknown"), zep_.shown().rfind("command or"));
+}
+
+TEST_P(Terminal, ClearsTheLineAtAnInterrupt) {
+  await_prompt();
+  zep_.type("nonsense");
+  expect("nonsense");
+  zep_.type(ctrl_c);
+  await_prompt();
+  type_line("ring");
+  expect("F101[XYZT]");
+  await_prompt();
+  EXPECT_EQ(zep_.shown().find("unknown"), std::string::npos);
+  EXPECT_EQ(zep_.shown().find("interrupted"), std::string::npos);
+}
+
+TEST_P(Terminal, GivesUpWhatIsBeingTypedForACommandAtAnInterrupt) {
+  await_prompt();
+  type_line("get A");
+  await_question("enter number of points : ");
+  zep_.type(ctrl_c);
+  expect("interrupted");
+  await_prompt();
+  type_line("get A 2");
+  type_line("1 2 3 4");
+  expect("1. point entered");
+  zep_.type("1 0" + ctrl_c);
+  expect("interrupted");
+  await_prompt();
+  type_line("A");
+  expect("command or indentifier unknown");
+}
+
+// The computation takes long with the look-ups of a debug build, and shows that it has begun.
+TEST_P(Terminal, GivesThePromptBackInTheMiddleOfAComputation) {
+  await_prompt();
+  type_line("random A 2000");
+  await_prompt();
+  type_line("bumo A");
+  expect("[1999]");
+  const auto pressed = std::chrono::steady_clock::now();
+  zep_.type(ctrl_c);
+  expect("interrupted");
+  await_prompt();
+  RecordProperty("milliseconds",
+                 static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(
+                                      std::chrono::steady_clock::now() - pressed)
+                                      .count()));
+  type_line("write A");
+  await_question("enter filename : ");
+  type_line("/dev/null");
+  await_prompt();
+  type_line("quiet");
+  await_prompt();
+  type_line("alpha A");
+  expect("alpha = 21");
+  await_prompt();
+  type_line("quit");
+  EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+TEST_P(Terminal, TakesTheLinesThatAreTypedAhead) {
+  await_prompt();
+  zep_.type("random A 5\nalpha A\nsigma A\nquit\n");
+  expect("alpha = 2");
+  expect("sigma = ");
+  EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+// What only line editing does.
+class LineEditing : public Terminal {};
+
+INSTANTIATE_TEST_SUITE_P(With, LineEditing, testing::Values(ZEP_PROGRAM));
+
+TEST_P(LineEditing, MovesInTheLine) {
+  await_prompt();
+  type_line("ing" + start_of_line + "r");
+  expect("F101[XYZT]");
+}
+
+TEST_P(LineEditing, OffersEarlierLinesAgain) {
+  await_prompt();
+  type_line("random A 5");
+  await_prompt();
+  type_line("alpha A");
+  expect("alpha = 2");
+  await_prompt();
+  type_line(up);
+  expect("alpha = 2");
+  await_prompt();
+  type_line(up + up + up);
+  expect("indentifier already exists");
+}
+
+TEST_P(LineEditing, CompletesCommands) {
+  await_prompt();
+  type_line("hilb\tA");
+  expect("indentifier unknown");
+  await_prompt();
+  zep_.type("putlin\t\t");
+  expect("putlinomsyz");
+}
+
+TEST_P(LineEditing, CompletesIdentifiersBehindCommandsThatTakeOne) {
+  await_prompt();
+  type_line("random quadric 5");
+  await_prompt();
+  type_line("alpha qu\t");
+  expect("alpha = ");
+  await_prompt();
+  type_line("quadr\t");
+  expect("scheme quadric:");
+}
+
+TEST_P(LineEditing, CompletesFileNames) {
+  const std::filesystem::path folder =
+      std::filesystem::path(testing::TempDir()) / "completes-file-names";
+  std::filesystem::create_directories(folder);
+  std::ofstream(folder / "one-point-of-the-plane") << "4 1 1 5 6 7\n";
+  await_prompt();
+  type_line("scheme A");
+  await_question("enter filename : ");
+  type_line((folder / "one-p").string() + "\t");
+  await_prompt();
+  type_line("A");
+  expect("<1:5:6:7>");
+  std::filesystem::remove_all(folder);
+}
+
+TEST_P(LineEditing, CompletesNothingWhereANumberIsAsked) {
+  await_prompt();
+  type_line("get A");
+  await_question("enter number of points : ");
+  type_line("\t1");
+  type_line("1 2 3 4");
+  expect("<1:2:3:4>");
+}
+
+TEST_P(LineEditing, WrapsLongLinesAtTheWidthOfTheTerminal) {
+  for (const int columns : {80, 200}) {
+    pseudo_terminal wide({ZEP_PROGRAM}, static_cast<unsigned short>(columns));
+    ASSERT_TRUE(wide.shows("% "));
+    wide.type("identifiers abcd " + std::string(120, 'x') + start_of_line + "ring\n");
+    EXPECT_TRUE(wide.shows("unknown")) << wide.shown();
+  }
+}
+
+}  // namespace
+}  // namespace zep
