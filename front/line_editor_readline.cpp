@@ -93,7 +93,7 @@ typed_line read_line(const std::string& prompt) {
   const std::unique_ptr<char, free_memory> line(::readline(prompt.c_str()));
   if (editor().interrupted) return {typed_line::ending::interrupt, {}};
   if (line == nullptr) return {typed_line::ending::end_of_input, {}};
-  return {typed_line::ending::line, line.get()};
+  return {typed_line::ending::line, std::string(line.get())};
 }
 
 void remember_line(const std::string& line) { ::add_history(line.c_str()); }
