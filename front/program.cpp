@@ -41,14 +41,20 @@ void carry_out(session& z, std::istream& in, std::streambuf& buffer, std::ostrea
   in.rdbuf(nullptr);
 }
 
-int carry_out_all(session& z, std::istream& in, const options& chosen, std::ostream* repeat) {
+// Where lines are repeated, if anywhere. What goes to standard output is in the log already.
+std::ostream* repetition(const options& chosen, const session_source& opened, std::ostream& log) {
+  if (chosen.echo && !opened.is_terminal()) return &std::cout;
+  return chosen.log ? &log : nullptr;
+}
+
+int carry_out_all(session& z, std::istream& in, const options& chosen, std::ostream& log) {
   for (const source& s : chosen.sources) {
     session_source opened(s, z.var);
     if (!opened.is_open()) {
       std::cerr << "zep: can't open " << s.text << "\n";
       return 1;
     }
-    carry_out(z, in, opened.buffer(), repeat);
+    carry_out(z, in, opened.buffer(), repetition(chosen, opened, log));
     if (z.stopped) return 1;
   }
   return 0;
@@ -71,9 +77,7 @@ int run_program(const options& chosen) {
   session z(in, chosen.seed);
   z.stop_on_error = chosen.stop_on_error;
   greet(z, chosen.decorated);
-  // What goes to standard output is in the log already.
-  std::ostream* const repeat = chosen.echo ? &std::cout : chosen.log ? &log : nullptr;
-  const int status = carry_out_all(z, in, chosen, repeat);
+  const int status = carry_out_all(z, in, chosen, log);
   take_leave(z, chosen.decorated);
   return status;
 }

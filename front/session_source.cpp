@@ -23,10 +23,9 @@ std::unique_ptr<std::streambuf> file_buffer(const std::string& name) {
   return file;
 }
 
+bool at_a_terminal() { return ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0; }
+
 std::unique_ptr<std::streambuf> keyboard(const identifier_table& identifiers) {
-  if (::isatty(STDIN_FILENO) == 0 || ::isatty(STDOUT_FILENO) == 0) {
-    return std::make_unique<standard_input>();
-  }
   catch_interrupts();
   return std::make_unique<terminal_input>(
       [&](const std::string& prompt, const std::string& before) {
@@ -39,7 +38,8 @@ std::unique_ptr<std::streambuf> keyboard(const identifier_table& identifiers) {
 session_source::session_source(const source& s, const identifier_table& identifiers) {
   switch (s.from) {
     case source::kind::standard_input:
-      buffer_ = keyboard(identifiers);
+      is_terminal_ = at_a_terminal();
+      buffer_ = is_terminal_ ? keyboard(identifiers) : std::make_unique<standard_input>();
       break;
     case source::kind::file:
       buffer_ = file_buffer(s.text);

@@ -17,11 +17,14 @@ class session_source {
   session_source(const source& s, const identifier_table& identifiers);
 
   bool is_open() const { return buffer_ != nullptr; }
+  // What is typed stands on the screen already.
+  bool is_terminal() const { return is_terminal_; }
   // Requires an open source.
   std::streambuf& buffer() { return *buffer_; }
 
  private:
   std::unique_ptr<std::streambuf> buffer_;
+  bool is_terminal_ = false;
 };
 
 }  // namespace zep

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 
 #include "tests/terminal/pseudo_terminal.h"
@@ -146,6 +147,23 @@ TEST_P(Terminal, TakesTheLinesThatAreTypedAhead) {
   expect("alpha = 2");
   expect("sigma = ");
   EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+// The log has what the terminal echoes; the screen has it once.
+TEST_P(Terminal, IsLoggedWithWhatIsTyped) {
+  const std::string log = testing::TempDir() + "log-of-a-terminal";
+  std::filesystem::remove(log);
+  {
+    pseudo_terminal logged({GetParam(), "-q", "--echo", "--log", log});
+    logged.type("ring\nquit\n");
+    ASSERT_TRUE(logged.shows("F101[XYZT]")) << logged.shown();
+    EXPECT_EQ(logged.exit_status(), 0);
+  }
+  std::ostringstream text;
+  text << std::ifstream(log).rdbuf();
+  EXPECT_TRUE(text.str().starts_with("ring\ndimension         : 3\n")) << text.str();
+  EXPECT_TRUE(text.str().ends_with("quit\n")) << text.str();
+  std::filesystem::remove(log);
 }
 
 // What only line editing does.
