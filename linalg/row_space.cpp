@@ -10,9 +10,9 @@
 namespace zep {
 
 bool row_space::add(std::vector<Fp8> row) {
-  heed_interrupt();
   const std::size_t n = row.size();
   for (std::size_t j = 0; j < rows_.size(); ++j) {
+    heed_interrupt();
     const std::size_t p = pivots_[j];
     axpy(row.data() + p, rows_[j].data() + p, -row[p], n - p);
   }

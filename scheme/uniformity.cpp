@@ -18,6 +18,9 @@ namespace zep {
 
 namespace {
 
+// A choice with fewer rows below it is not worth a check.
+constexpr int many_rows = 64;
+
 // Places of a subset, from the lowest on, that keep reduced rows of their own.
 constexpr int lower_places = 24;
 
@@ -82,7 +85,6 @@ class subset_walk {
 
   // Chooses row c for place i, and all that can be chosen below it.
   bool choose(int i, int c) {
-    heed_interrupt();
     chosen_[at(i)] = c;
     const int pivot = at_place(i).pivot_of(c);
     if (pivot < 0) {
@@ -97,7 +99,9 @@ class subset_walk {
       reduce_into_place_below(i, c, pivot);
     }
     if (i == 1) return choose_first(c);
+    heed_interrupt();
     for (int below = i - 1; below < c; ++below) {
+      if (below >= many_rows) heed_interrupt();
       if (i - 1 >= lower_ && below > i - 1) reduce_upper_again(i);
       if (choose(i - 1, below)) return true;
     }

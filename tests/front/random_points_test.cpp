@@ -5,6 +5,7 @@
 #include <set>
 #include <vector>
 
+#include "arith/interrupt.h"
 #include "arith/ring.h"
 #include "tests/front/transcript.h"
 
@@ -132,6 +133,19 @@ TEST(Random, FillsTheWholeRangeQuickly) {
   const std::string typed = "dim 2\nrandom A 2601\n";
   const std::string out = type_in(typed).out;
   EXPECT_EQ(out.substr(out.size() - line.size() - 4), "% " + line + "% ");
+}
+
+TEST(Random, LeavesIdentifiersAndGeneratorAsTheyWereWhenInterrupted) {
+  std::istringstream keyboard("A 20");
+  session z(keyboard);
+  set_defaults(z);
+  const captured out(std::cout);
+  // Some points are drawn first where checks are counted.
+  paranoid ? interrupt_at_check(5) : request_interrupt();
+  EXPECT_THROW(random1(z), interrupted);
+  EXPECT_EQ(z.var.find("A"), unknown_identifier);
+  ACG undisturbed = session(keyboard).gen;
+  EXPECT_EQ(z.gen.draw(), undisturbed.draw());
 }
 
 }  // namespace
