@@ -1,8 +1,10 @@
 #include "front/interruption.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 
 #include "arith/interrupt.h"
@@ -19,6 +21,27 @@ void on_interrupt(int /*signal*/) {
   if (pending != 0) ::_exit(ended_by_interrupt);
   pending = 1;
   request_interrupt();
+}
+
+// The terminal, opened once more. An interrupt takes away what has been typed, perhaps between a
+// key being seen and being read; so reading must not wait, and others who have the terminal must
+// not notice.
+int keyboard() {
+  static const int descriptor = [] {
+    const char* const name = ::ttyname(STDIN_FILENO);
+    const int opened =
+        name != nullptr ? ::open(name, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC) : -1;
+    return opened >= 0 ? opened : STDIN_FILENO;
+  }();
+  return descriptor;
+}
+
+sigset_t held_signals() {
+  sigset_t held;
+  ::sigemptyset(&held);
+  ::sigaddset(&held, SIGINT);
+  ::sigaddset(&held, SIGCONT);
+  return held;
 }
 
 }  // namespace
@@ -39,20 +62,23 @@ bool take_interrupt() {
 }
 
 held_interrupts::held_interrupts() {
-  sigset_t interrupt;
-  ::sigemptyset(&interrupt);
-  ::sigaddset(&interrupt, SIGINT);
-  ::pthread_sigmask(SIG_BLOCK, &interrupt, &before_);
+  const sigset_t held = held_signals();
+  ::pthread_sigmask(SIG_BLOCK, &held, &before_);
 }
 
 held_interrupts::~held_interrupts() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
 
-void held_interrupts::wait_for_key() const {
-  if (pending != 0) return;
+key_event held_interrupts::await_key(char& key) const {
+  if (pending != 0) return key_event::signal;
   sigset_t let_in = before_;
   ::sigdelset(&let_in, SIGINT);
-  pollfd keyboard{STDIN_FILENO, POLLIN, 0};
-  static_cast<void>(::ppoll(&keyboard, 1, nullptr, &let_in));
+  ::sigdelset(&let_in, SIGCONT);
+  pollfd waiting{keyboard(), POLLIN, 0};
+  if (::ppoll(&waiting, 1, nullptr, &let_in) < 0) return key_event::signal;
+  const ssize_t count = ::read(waiting.fd, &key, 1);
+  if (count == 1) return key_event::key;
+  const bool gone = count < 0 && (errno == EAGAIN || errno == EINTR);
+  return gone ? key_event::signal : key_event::end_of_input;
 }
 
 }  // namespace zep

@@ -12,8 +12,11 @@ void catch_interrupts();
 // True if there has been an interrupt that nobody has taken; takes it.
 bool take_interrupt();
 
-// Holds interrupts back while it lives, but for the time that is spent waiting for a key: so none
-// comes between looking for one and waiting.
+// What ends waiting for a key.
+enum class key_event { key, end_of_input, signal };
+
+// Holds interrupts back while it lives, and the signal that the process goes on, but for the time
+// that is spent waiting for a key: so none comes between looking for one and waiting.
 class held_interrupts {
  public:
   held_interrupts();
@@ -21,9 +24,9 @@ class held_interrupts {
   held_interrupts(const held_interrupts&) = delete;
   held_interrupts& operator=(const held_interrupts&) = delete;
 
-  // Waits until standard input has something to read or has ended, or a signal comes or an
-  // interrupt has come that nobody has taken.
-  void wait_for_key() const;
+  // Waits for the next key of standard input, for its end or for a signal. An interrupt that has
+  // come before and that nobody has taken counts as a signal.
+  key_event await_key(char& key) const;
 
  private:
   sigset_t before_{};

@@ -1,7 +1,3 @@
-#include <unistd.h>
-
-#include <cerrno>
-
 #include "front/interruption.h"
 #include "front/line_editor.h"
 
@@ -10,20 +6,18 @@ namespace zep {
 void start_editing(const completer& /*complete*/) {}
 
 // The terminal itself does the editing, and hands over whole lines.
-typed_line read_line(const std::string& /*prompt*/) {
+typed_line read_line(const std::string& /*prompt*/, bool /*shown*/) {
   const held_interrupts held;
   std::string text;
   while (true) {
-    held.wait_for_key();
+    char key = 0;
+    const key_event event = held.await_key(key);
     if (take_interrupt()) return {typed_line::ending::interrupt, {}};
-    char c = 0;
-    const ssize_t count = ::read(STDIN_FILENO, &c, 1);
-    if (count < 0 && (errno == EINTR || errno == EAGAIN)) continue;
-    if (count == 1 && c != '\n') {
-      text += c;
-    } else if (count == 1 || !text.empty()) {
+    if (event == key_event::key && key != '\n') {
+      text += key;
+    } else if (event == key_event::key || (event == key_event::end_of_input && !text.empty())) {
       return {typed_line::ending::line, text};
-    } else {
+    } else if (event == key_event::end_of_input) {
       return {typed_line::ending::end_of_input, {}};
     }
   }

@@ -1,8 +1,8 @@
 #include <readline/history.h>
 #include <readline/readline.h>
-#include <unistd.h>
 
-#include <cerrno>
+#include <csetjmp>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -23,13 +23,19 @@ struct state {
   completions found;
   // While a line is read.
   const held_interrupts* held = nullptr;
-  bool interrupted = false;
+  // Where an interrupt leads, out of the library, whatever dialogue of its own that is in.
+  std::jmp_buf interrupted = {};
 };
 
 state& editor() {
   static state the_editor;
   return the_editor;
 }
+
+volatile std::sig_atomic_t continued = 0;
+
+// The line is not on the screen any more after the process has been stopped.
+void note_continuation(int /*signal*/) { continued = 1; }
 
 char* next_word(const char* word, int already) {
   static std::size_t next = 0;
@@ -43,30 +49,60 @@ char* next_word(const char* word, int already) {
   return nullptr;
 }
 
+// Names that can be typed: without blanks, and nothing that a shell would replace.
+char* next_file(const char* word, int already) {
+  if (word[0] == '~') return nullptr;
+  while (true) {
+    char* const name = ::rl_filename_completion_function(word, already);
+    if (name == nullptr || std::strpbrk(name, " \t") == nullptr) return name;
+    ::rl_free(name);
+    already = 1;
+  }
+}
+
 char** complete_word(const char* word, int start, int /*end*/) {
   rl_attempted_completion_over = 1;
   const std::string before(rl_line_buffer, static_cast<std::size_t>(start));
   editor().found = editor().complete(editor().prompt, before);
-  return ::rl_completion_matches(
-      word, editor().found.files ? ::rl_filename_completion_function : next_word);
+  if (editor().found.files) return ::rl_completion_matches(word, next_file);
+  // A blank behind a command would have the next line looked at for what it takes.
+  rl_completion_suppress_append = 1;
+  return ::rl_completion_matches(word, next_word);
 }
 
-// Waits for a key. An interrupt counts as the end of the line, which is dropped then.
+// Waits for a key. Nothing here or in the library has anything to destroy when an interrupt leads
+// out.
 int next_key(std::FILE* /*terminal*/) {
   const held_interrupts* const held = editor().held;
   while (held != nullptr) {
-    held->wait_for_key();
+    char key = 0;
+    const key_event event = held->await_key(key);
     ::rl_check_signals();
-    if (take_interrupt()) {
-      editor().interrupted = true;
-      return '\n';
+    if (take_interrupt()) std::longjmp(editor().interrupted, 1);
+    if (continued != 0) {
+      continued = 0;
+      ::rl_forced_update_display();
     }
-    unsigned char key = 0;
-    const ssize_t count = ::read(STDIN_FILENO, &key, 1);
-    if (count == 1) return key;
-    if (count == 0 || (errno != EINTR && errno != EAGAIN)) break;
+    if (event == key_event::key) return static_cast<unsigned char>(key);
+    if (event == key_event::end_of_input) break;
   }
   return EOF;
+}
+
+// Puts the library in order, and the cursor behind the line that is given up.
+void give_up_line() {
+  if (RL_ISSTATE(RL_STATE_ISEARCH | RL_STATE_NSEARCH)) {
+    ::rl_restore_prompt();
+    ::rl_clear_message();
+  }
+  rl_point = rl_end;
+  ::rl_redisplay();
+  std::fputs("^C\n", rl_outstream);
+  std::fflush(rl_outstream);
+  ::rl_free_line_state();
+  ::rl_cleanup_after_signal();
+  RL_UNSETSTATE(RL_STATE_ISEARCH | RL_STATE_NSEARCH | RL_STATE_COMPLETING | RL_STATE_MULTIKEY |
+                RL_STATE_MOREINPUT | RL_STATE_NUMERICARG | RL_STATE_METANEXT);
 }
 
 struct free_memory {
@@ -81,17 +117,25 @@ void start_editing(const completer& complete) {
   rl_getc_function = next_key;
   rl_attempted_completion_function = complete_word;
   rl_completer_word_break_characters = " \t";
+  // An interrupt is shown behind the line, not where the cursor is.
+  ::rl_variable_bind("echo-control-characters", "off");
+  struct sigaction action {};
+  action.sa_handler = note_continuation;
+  action.sa_flags = SA_RESTART;
+  static_cast<void>(::sigaction(SIGCONT, &action, nullptr));
   ::using_history();
 }
 
-typed_line read_line(const std::string& prompt) {
+typed_line read_line(const std::string& prompt, bool shown) {
   const held_interrupts held;
   editor().held = &held;
   editor().prompt = prompt;
-  editor().interrupted = false;
   rl_already_prompted = 1;
-  const std::unique_ptr<char, free_memory> line(::readline(prompt.c_str()));
-  if (editor().interrupted) return {typed_line::ending::interrupt, {}};
+  if (setjmp(editor().interrupted) != 0) {
+    give_up_line();
+    return {typed_line::ending::interrupt, {}};
+  }
+  const std::unique_ptr<char, free_memory> line(::readline(shown ? prompt.c_str() : ""));
   if (line == nullptr) return {typed_line::ending::end_of_input, {}};
   return {typed_line::ending::line, std::string(line.get())};
 }

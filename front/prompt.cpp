@@ -20,6 +20,8 @@ bool prompt(std::string_view text) {
 
 void show_prompts(bool on) { shown = on; }
 
+bool prompts_are_shown() { return shown; }
+
 std::string take_prompt() { return std::exchange(on_the_line, {}); }
 
 }  // namespace zep

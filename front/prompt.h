@@ -17,6 +17,7 @@ bool prompt(std::string_view text);
 
 // Turns prompts on, as they are at the start, or off.
 void show_prompts(bool on);
+bool prompts_are_shown();
 
 // The prompt that has been given since this was asked last; empty if there is none.
 std::string take_prompt();

@@ -28,7 +28,7 @@ terminal_input::int_type terminal_input::underflow() {
   while (!ended_) {
     const std::string prompted = take_prompt();
     std::cout.flush();
-    typed_line typed = read_line(prompted);
+    typed_line typed = read_line(prompted, prompts_are_shown());
     if (typed.how == typed_line::ending::line) {
       if (!is_blank(typed.text)) remember_line(typed.text);
       line_ = std::move(typed.text) + "\n";

@@ -56,6 +56,8 @@ void pseudo_terminal::type(const std::string& keys) const {
   }
 }
 
+void pseudo_terminal::send(int signal) const { ::kill(program_, signal); }
+
 // False when there is nothing more to come.
 bool pseudo_terminal::read_more() {
   pollfd waiting{terminal_, POLLIN, 0};

@@ -21,6 +21,9 @@ class pseudo_terminal {
   // Presses these keys.
   void type(const std::string& keys) const;
 
+  // Sends the program a signal.
+  void send(int signal) const;
+
   // Waits until the program shows the text, behind what was waited for before. False if it ends
   // first, or within twenty seconds does not.
   bool shows(const std::string& text);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -15,6 +16,7 @@ const std::string backspace = "\x7f";
 const std::string ctrl_c = "\x03";
 const std::string ctrl_d = "\x04";
 const std::string start_of_line = "\x01";
+const std::string search_backwards = "\x12";
 const std::string up = "\x1b[A";
 
 // Every test of these is run with the program and with the one that has no line editing.
@@ -220,11 +222,59 @@ TEST_P(LineEditing, CompletesIdentifiersBehindCommandsThatTakeOne) {
   expect("scheme quadric:");
 }
 
+// A blank would have the name looked for in the next line.
+TEST_P(LineEditing, PutsNoBlankBehindACommand) {
+  await_prompt();
+  type_line("gb\t");
+  expect("command needs indentifier");
+}
+
+TEST_P(LineEditing, GivesUpASearchAtAnInterrupt) {
+  await_prompt();
+  type_line("random A 5");
+  await_prompt();
+  for (const std::string& dialogue : {search_backwards, search_backwards + "rand"}) {
+    zep_.type(dialogue);
+    zep_.type(ctrl_c);
+    expect("^C");
+    await_prompt();
+    type_line("ring");
+    expect("F101[XYZT]");
+    await_prompt();
+  }
+  type_line("get B");
+  await_question("enter number of points : ");
+  zep_.type(search_backwards + "ra" + ctrl_c);
+  expect("interrupted");
+  await_prompt();
+}
+
+TEST_P(LineEditing, ShowsTheLineAgainWhenTheProgramGoesOn) {
+  await_prompt();
+  zep_.type("abc def");
+  expect("abc def");
+  zep_.send(SIGSTOP);
+  zep_.send(SIGCONT);
+  expect("% abc def");
+}
+
+TEST_P(LineEditing, LeavesNoRoomForAPromptThatIsNotShown) {
+  pseudo_terminal bare({GetParam(), "-q"});
+  ASSERT_TRUE(bare.shows("\x1b[?2004h")) << bare.shown();
+  bare.type("get A\n");
+  ASSERT_TRUE(bare.shows("\x1b[?2004h")) << bare.shown();
+  bare.type("x" + start_of_line + "1 \n");
+  ASSERT_TRUE(bare.shows("malformed number") || bare.shows("unexpected")) << bare.shown();
+  EXPECT_EQ(bare.shown().find("number of"), std::string::npos) << bare.shown();
+}
+
 TEST_P(LineEditing, CompletesFileNames) {
   const std::filesystem::path folder =
       std::filesystem::path(testing::TempDir()) / "completes-file-names";
   std::filesystem::create_directories(folder);
   std::ofstream(folder / "one-point-of-the-plane") << "4 1 1 5 6 7\n";
+  // Names with blanks can't be typed, so they are not in the way.
+  std::ofstream(folder / "one-p with a blank") << "0\n";
   await_prompt();
   type_line("scheme A");
   await_question("enter filename : ");
