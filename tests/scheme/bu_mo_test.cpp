@@ -147,8 +147,8 @@ void expect_as_in_the_plain_walk(const std::vector<coordinates>& points) {
 TEST(BuMo, IsThePlainAlgorithmOnRandomPointsOfAnyNumber) {
   std::mt19937 random(21);
   for (const int p : {2, 3, 127, 251}) {
-    for (const int s : {1, 2, 3, 4, 5, 15, 16, 17, 63, 64, 65, 129, 257, 300}) {
-      for (const int n : {2, 3, 5, 9}) {
+    for (const int s : {1, 2, 3, 5, 16, 17, 64, 65, 129, 257}) {
+      for (const int n : {2, 3, 9}) {
         const ring_in_force ring(p, n, s % 2 == 0 ? term_order::deglex : term_order::degrevlex);
         expect_as_in_the_plain_walk(random_points(s, random));
       }
