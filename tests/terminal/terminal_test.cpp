@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
@@ -18,6 +19,11 @@ const std::string ctrl_d = "\x04";
 const std::string start_of_line = "\x01";
 const std::string search_backwards = "\x12";
 const std::string up = "\x1b[A";
+
+// A path that no test running beside this one has.
+std::string own_path(const std::string& name) {
+  return testing::TempDir() + name + "-" + std::to_string(::getpid());
+}
 
 // Every test of these is run with the program and with the one that has no line editing.
 class Terminal : public testing::TestWithParam<const char*> {
@@ -162,7 +168,7 @@ TEST_P(Terminal, TakesTheLinesThatAreTypedAhead) {
 
 // The log has what the terminal echoes; the screen has it once.
 TEST_P(Terminal, IsLoggedWithWhatIsTyped) {
-  const std::string log = testing::TempDir() + "log-of-a-terminal";
+  const std::string log = own_path("log-of-a-terminal");
   std::filesystem::remove(log);
   {
     pseudo_terminal logged({GetParam(), "-q", "--echo", "--log", log});
@@ -269,8 +275,7 @@ TEST_P(LineEditing, LeavesNoRoomForAPromptThatIsNotShown) {
 }
 
 TEST_P(LineEditing, CompletesFileNames) {
-  const std::filesystem::path folder =
-      std::filesystem::path(testing::TempDir()) / "completes-file-names";
+  const std::filesystem::path folder = own_path("completes-file-names");
   std::filesystem::create_directories(folder);
   std::ofstream(folder / "one-point-of-the-plane") << "4 1 1 5 6 7\n";
   // Names with blanks can't be typed, so they are not in the way.
