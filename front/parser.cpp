@@ -45,6 +45,8 @@ void report_rest_of_line(session& z) {
 
 }  // namespace
 
+bool has_to_stop(const session& z) { return z.stop_on_error && no_of_errors() > 0; }
+
 void parser(session& z) {
   // Without an output there is nobody to work for.
   while (!z.quit && prompt(command_prompt)) {
@@ -58,10 +60,7 @@ void parser(session& z) {
       std::cerr << "interrupted\n";
       z.typed.forget();
     }
-    if (z.stop_on_error && no_of_errors() > 0) {
-      z.stopped = true;
-      z.quit = true;
-    }
+    if (has_to_stop(z)) z.quit = true;
   }
 }
 

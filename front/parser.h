@@ -10,4 +10,7 @@ namespace zep {
 // behind.
 void parser(session& z);
 
+// Whether an error that has been reported ends the program.
+bool has_to_stop(const session& z);
+
 }  // namespace zep

@@ -55,7 +55,7 @@ int carry_out_all(session& z, std::istream& in, const options& chosen, std::ostr
       return 1;
     }
     carry_out(z, in, opened.buffer(), repetition(chosen, opened, log));
-    if (z.stopped) return 1;
+    if (has_to_stop(z)) return 1;
   }
   return 0;
 }

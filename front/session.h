@@ -28,9 +28,8 @@ struct session {
   int range2 = default_range2;
   // Source of all random points. Never seeded anew, so the same commands draw the same points.
   ACG gen;
-  // End the session behind the first command that reports an error; set when it has.
+  // End the program behind the first command that reports an error.
   bool stop_on_error = false;
-  bool stopped = false;
 };
 
 }  // namespace zep

@@ -299,12 +299,15 @@ TEST_P(LineEditing, CompletesNothingWhereANumberIsAsked) {
   expect("<1:2:3:4>");
 }
 
-TEST_P(LineEditing, WrapsLongLinesAtTheWidthOfTheTerminal) {
+// The way back to the start of the line leads over a row where the letters do not fit one.
+TEST_P(LineEditing, KnowsTheWidthOfTheTerminal) {
+  const std::string row_up = "\x1b[A";
   for (const int columns : {80, 200}) {
-    pseudo_terminal wide({ZEP_PROGRAM}, static_cast<unsigned short>(columns));
-    ASSERT_TRUE(wide.shows("% "));
-    wide.type("identifiers abcd " + std::string(120, 'x') + start_of_line + "ring\n");
-    EXPECT_TRUE(wide.shows("unknown")) << wide.shown();
+    pseudo_terminal screen({GetParam()}, static_cast<unsigned short>(columns));
+    ASSERT_TRUE(screen.shows("\x1b[?2004h")) << screen.shown();
+    screen.type(std::string(120, 'x') + start_of_line + "\n");
+    ASSERT_TRUE(screen.shows("unknown")) << screen.shown();
+    EXPECT_EQ(screen.shown().find(row_up) != std::string::npos, columns == 80) << screen.shown();
   }
 }
 
