@@ -2,32 +2,25 @@
 # Fails unless the program that times sessions works, and notices runs that fail.
 #   bench_sessions.sh SESSIONS ZEP
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 sessions=$(realpath "$1")
 zep=$(realpath "$2")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 cd "$work"
 mkdir temporary
 export TMPDIR=$work/temporary
-failed=0
 
-fail() {
-  printf '%s\n' "$*"
-  failed=1
-}
-
-"$sessions" --runs 1 --filter small "$zep" >one || fail 'one program: a failure'
-[ "$(grep -cE '^small .*F_101( +[0-9]+\.[0-9]){2}$' one)" -eq 3 ] || fail "one program: $(cat one)"
-"$sessions" --runs 2 --filter 'small 5 ' "$zep" "$zep" >two || fail 'two programs: a failure'
-[ "$(grep -cE '^small .*F_101( +[0-9]+\.[0-9]+){5}$' two)" -eq 1 ] || fail "two programs: $(cat two)"
+"$sessions" --runs 1 --filter small "$zep" >one || complain 'one program: a failure'
+[ "$(grep -cE '^small .*F_101( +[0-9]+\.[0-9]){2}$' one)" -eq 3 ] || complain "one program: $(cat one)"
+"$sessions" --runs 2 --filter 'small 5 ' "$zep" "$zep" >two || complain 'two programs: a failure'
+[ "$(grep -cE '^small .*F_101( +[0-9]+\.[0-9]+){5}$' two)" -eq 1 ] || complain "two programs: $(cat two)"
 
 # must_fail WHAT REASON ARGUMENT...: says the reason, and ends with status 1.
 must_fail() {
   local what=$1 reason=$2 status=0
   shift 2
   "$sessions" --runs 1 "$@" >out 2>&1 || status=$?
-  [ "$status" -eq 1 ] || fail "$what: status $status"
-  [[ "$(cat out)" == *"$reason"* ]] || fail "$what: $(cat out)"
+  [ "$status" -eq 1 ] || complain "$what: status $status"
+  [[ "$(cat out)" == *"$reason"* ]] || complain "$what: $(cat out)"
 }
 
 # Takes its commands, but reports one of them.
@@ -46,5 +39,5 @@ must_fail 'a missing program' "can't run" ./missing
 must_fail 'a filter without a case' 'no such case' --filter large "$zep"
 must_fail 'no program' 'usage'
 
-[ -z "$(ls temporary)" ] || fail "left behind: $(ls temporary)"
+[ -z "$(ls temporary)" ] || complain "left behind: $(ls temporary)"
 exit "$failed"

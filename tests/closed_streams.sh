@@ -2,16 +2,13 @@
 # Fails unless the program takes closed or unreadable standard streams in its stride.
 #   closed_streams.sh ZEP
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 zep=$1
 farewell=$'thanks for using ZEP\n-------------------------------------------------------------------------------'
-failed=0
 
 # ends_well WHAT STATUS OUTPUT
 ends_well() {
-  if [ "$2" -ne 0 ] || [[ "$3" != *"$farewell" ]]; then
-    printf '%s: status %s, output: %s\n' "$1" "$2" "$3"
-    failed=1
-  fi
+  [ "$2" -eq 0 ] && [[ "$3" == *"$farewell" ]] || complain "$1: status $2, output: $3"
 }
 
 status=0 && out=$("$zep" <&- 2>&1) || status=$?

@@ -4,9 +4,9 @@
 #   developers.sh TOP
 # A paragraph begins with the room, in bold and without extension, or with several of them.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 cd "$1"
 document=docs/developers.md
-failed=0
 
 rooms() { printf '%s\n' {arith,linalg,scheme,front}/*.{h,cpp} | sed 's/\.[a-z]*$//' | LC_ALL=C sort -u; }
 described() {
@@ -20,10 +20,9 @@ files_named() {
 }
 
 if ! diff <(rooms) <(described); then
-  echo "$document: < a room without a paragraph; > a paragraph without a room, or a second one"
-  failed=1
+  complain "$document: < a room without a paragraph; > a paragraph without a room, or a second one"
 fi
 while read -r name; do
-  [ -e "$name" ] || [ -e "$name.h" ] || { echo "$document: $name does not exist" && failed=1; }
+  [ -e "$name" ] || [ -e "$name.h" ] || complain "$document: $name does not exist"
 done < <(files_named)
 exit "$failed"

@@ -6,16 +6,9 @@
 # NAME.txt or of a file that the session writes, but for prompts and blanks at the end.
 # With UPDATE=1 in the environment, writes NAME.txt anew, to be read before it is kept.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 zep=$(realpath "$1")
 folder=$(realpath "$2")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failed=0
-
-complain() {
-  echo "$1"
-  failed=1
-}
 
 plain_lines() { sed 's/^\(% \)*//; s/ *$//'; }
 

@@ -2,14 +2,11 @@
 # Fails unless a result file that may not grow is a warning, and not the end of the session.
 #   file_size_limit.sh ZEP
 set -euo pipefail
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 commands='quiet\nrandom A 4\nputscheme A %s\nalpha A\nquit\n'
 status=0
 # shellcheck disable=SC2059 # the commands are the format
 out=$( (ulimit -f 0 && printf "$commands" "$work/points" | "$1") 2>&1) || status=$?
-if [ "$status" -ne 0 ] || [[ "$out" != *"warning: can't write all of $work/points"* ]] ||
-  [[ "$out" != *'alpha = 2'*'thanks for using ZEP'* ]]; then
-  printf 'status %s, output: %s\n' "$status" "$out"
-  exit 1
-fi
+[ "$status" -eq 0 ] && [[ "$out" == *"warning: can't write all of $work/points"* ]] &&
+  [[ "$out" == *'alpha = 2'*'thanks for using ZEP'* ]] || complain "status $status, output: $out"
+exit "$failed"

@@ -14,16 +14,9 @@
 #   status       its exit status; without such a block, 0
 # Each session needs one of text, output and file. Comparisons are exact, blanks at the ends included.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 zep=$(realpath "$1")
 top=$(realpath "$2")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failed=0
-
-complain() {
-  echo "$1"
-  failed=1
-}
 
 # take_apart DOCUMENT: puts the contents of its blocks into files, and prints a line for each:
 #   line number, that file, kind, name

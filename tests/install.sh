@@ -5,10 +5,9 @@
 # Leaves out the package where the tools that make it are missing, and what groff says of the manual
 # page where groff is.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 build=$(realpath "$1")
 top=$(realpath "$2")
-work=$(mktemp -d)
-failed=0
 
 # Installing leaves a list in the build folder; an older one is put back.
 manifest=$build/install_manifest.txt
@@ -19,11 +18,6 @@ tidy_up() {
   rm -rf "$work"
 }
 trap tidy_up EXIT
-
-complain() {
-  echo "$1"
-  failed=1
-}
 
 # What has to be in a prefix, sorted.
 expected_files() {

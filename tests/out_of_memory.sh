@@ -2,18 +2,16 @@
 # Fails unless exhausted memory ends the program with status 10 and a message on standard error.
 #   out_of_memory.sh ZEP
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 zep=$(realpath "$1")
 message=$'\nNew: can\'t allocate enough memory'
-failed=0
 
 # try WHAT KILOBYTES: runs the commands on standard input in so much address space.
 try() {
   local status=0 err
   err=$( (ulimit -v "$2" && exec "$zep") 2>&1 >/dev/null) || status=$?
-  if [ "$status" -ne 10 ] || [[ "$err" != *"$message" ]]; then
-    printf '%s: status %s, standard error: %s\n' "$1" "$status" "$(head -c 200 <<<"$err")"
-    failed=1
-  fi
+  [ "$status" -eq 10 ] && [[ "$err" == *"$message" ]] ||
+    complain "$1: status $status, standard error: $(head -c 200 <<<"$err")"
 }
 
 # pad SIZE CHARACTER
@@ -27,8 +25,6 @@ try 'a long word' 30000 < <(printf 'scheme A '; pad 60000000 a; printf '\n')
 # Every computation, in all sizes of address space from one that is hardly enough for the program to
 # one that is enough for all: it ends in order or with the message, and a result file holds either
 # the whole result or nothing; that of putlinres may hold the part of putlinid.
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 cd "$work"
 exhausted=0
 
@@ -56,10 +52,7 @@ squeeze() {
     esac
     case $status in
       0 | 10) ;;
-      *)
-        printf '%s in %s KB: %s: %s\n' "$2" "$limit" "$status" "$(head -c 200 <<<"$err")"
-        failed=1
-        ;;
+      *) complain "$2 in $limit KB: $status: $(head -c 200 <<<"$err")" ;;
     esac
   done
 }
@@ -70,14 +63,10 @@ for command in bumo sep betamat is_duf min socle omega linres linsyz \
 done
 squeeze $'dim 5\nrandom A 90' linres
 squeeze $'dim 5\nrandom A 90' putlinres
-if [ "$exhausted" -lt 60 ]; then
-  echo "memory was exhausted $exhausted times only"
-  failed=1
-fi
+[ "$exhausted" -ge 60 ] || complain "memory was exhausted $exhausted times only"
 
 # What is only reported or dropped needs no memory.
 if ! (printf 'list '; pad 40000000 a; printf '\n') | (ulimit -v 30000 && exec "$zep") >/dev/null; then
-  echo 'a long line was not reported'
-  failed=1
+  complain 'a long line was not reported'
 fi
 exit "$failed"

@@ -6,10 +6,9 @@
 # session) and written/ (the files that the session must write there).
 # With UPDATE=1 in the environment, writes out, err and status anew, to be read before they are kept.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 zep=$(realpath "$1")
 folder=$(realpath "$2")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 
 mkdir "$work/run"
 if [ -d "$folder/files" ]; then cp "$folder"/files/* "$work/run"; fi
@@ -21,13 +20,9 @@ if [ "${UPDATE:-}" = 1 ]; then
   if [ "$status" -ne 0 ]; then echo "$status" >"$folder/status"; fi
 fi
 
-failed=0
 expected_status=0
 if [ -f "$folder/status" ]; then expected_status=$(cat "$folder/status"); fi
-if [ "$status" -ne "$expected_status" ]; then
-  echo "exit status $status, expected $expected_status"
-  failed=1
-fi
+[ "$status" -eq "$expected_status" ] || complain "exit status $status, expected $expected_status"
 diff -u "$folder/out" "$work/out" || failed=1
 diff -u "$folder/err" "$work/err" || failed=1
 for file in "$folder"/written/*; do
