@@ -20,8 +20,8 @@ inline bool operator==(const mmm& a, const mmm& b) { return a.t == b.t; }
 inline bool operator<(const mmm& a, const mmm& b) { return a.t < b.t; }
 inline bool operator>(const mmm& a, const mmm& b) { return a.t > b.t; }
 
-// True when the list holds a candidate equal to m. The match is credited with one more `ins`, but a
-// match with the last item credits m instead: the caller discards m then, so it is not counted.
+// True when the list holds a candidate equal to m. The first match is credited with one more `ins`;
+// but where it is the last item, m itself is credited, which counts nothing once m is discarded.
 bool element(list<mmm>& candidates, mmm& m);
 
 }  // namespace zep

@@ -18,7 +18,8 @@ void show_settings();
 void hello();
 
 // Each reads what it needs, answers on standard output, and throws end_of_input where the input
-// ends; then the setting stays as it was.
+// ends; then the setting stays as it was, but set_dim has deleted the identifiers before it asks
+// for names.
 void characteristic(session& z);
 void set_dim(session& z);
 void identifiers(session& z);

@@ -1,4 +1,4 @@
-// The whole record of a scheme in words.
+// A scheme in words: its points, and in short what is known of it.
 #pragma once
 
 #include <iosfwd>
@@ -7,7 +7,9 @@
 
 namespace zep {
 
-// Prints the points and every result that exists; computes nothing.
+// Prints the points and, of the results that exist, the order ideal, numbers, verdicts and degrees:
+// no Groebner basis, separators, beta matrix, generators or relations, which are long. Computes
+// nothing.
 std::ostream& operator<<(std::ostream& out, scheme& X);
 
 }  // namespace zep
