@@ -9,6 +9,7 @@
 #include "scheme/min_Ix.h"
 #include "scheme/separators.h"
 #include "scheme/socle.h"
+#include "tests/scheme/everything.h"
 #include "tests/scheme/point_sets.h"
 #include "tests/scheme/shown.h"
 
@@ -91,6 +92,55 @@ TEST(Record, GrowsWithTheResults) {
   EXPECT_EQ(record(), points + invariants + verdicts + socle_text);
   const std::string degrees = shown(deg_min, X);
   EXPECT_EQ(record(), points + invariants + verdicts + degrees + socle_text);
+}
+
+// All that there is, in its order, with one table for both linear strands.
+std::string plain_record(scheme& X) {
+  std::ostringstream points;
+  disp_scheme(points, X);
+  std::string text =
+      "scheme consists of " + std::to_string(X.s) + " points:\n" + points.str() + "\n" + line;
+  const auto add = [&](bool is_there, display show) {
+    if (is_there) text += shown(show, X);
+  };
+  for (const display show : {order_ideal, hilb_fct, delta_fct, sigma_X, delta_X, alpha_X}) {
+    add(X.has_bu_mo, show);
+  }
+  add(X.sep == 1, is_CB);
+  add(X.sep == 1, is_ar_Go);
+  add(X.min_Ix.has_value(), deg_min);
+  add(X.socle.has_value(), disp_socle);
+  add(!X.pr.empty(), disp_omega);
+  const bool both = X.linid != 0 && X.linom != 0;
+  add(both, disp_linres);
+  add(!both && X.linom != 0, disp_linom);
+  add(!both && X.linid != 0, disp_linid);
+  return text;
+}
+
+TEST(Record, ShowsWhateverThereIsInItsOrder) {
+  const std::vector<void (*)(scheme&)> computations = {need_bu_mo, need_sep, min_Ix, socle,
+                                                       omega,      linid,    linom};
+  const ring_in_force ring(101, 2);
+  for (const std::vector<coordinates>& points :
+       {std::vector<coordinates>{}, triangle, points_on_curve(2, 6)}) {
+    for (unsigned chosen = 0; chosen < 1U << computations.size(); ++chosen) {
+      scheme X = make_set(points);
+      {
+        const silence quiet;
+        for (std::size_t i = 0; i < computations.size(); ++i) {
+          if ((chosen >> i & 1U) != 0) computations[i](X);
+        }
+      }
+      const std::string before = contents(X);
+      const silence quiet;
+      std::ostringstream out;
+      out << X;
+      EXPECT_EQ(out.str(), plain_record(X)) << "after computations " << chosen;
+      EXPECT_EQ(quiet.out.text() + quiet.err.text(), "");
+      EXPECT_EQ(contents(X), before);
+    }
+  }
 }
 
 TEST(Ideal, PrintsAGeneratorALine) {

@@ -76,6 +76,20 @@ TEST(Scheme, FindsTheMonomialOneWithoutLookingAndNothingOfALargerDegree) {
   EXPECT_EQ(is_el_O(X, monomial({40, 40})), -1);
 }
 
+// Degree d is looked for at the positions H(d-1) .. H(d)-1. Monomials 1 that fill O up shift these.
+TEST(Scheme, FindsAMonomialByDegreeOnlyWhereThatDegreeStands) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {0, 0}, {1, 0}, {2, 0}});
+  const silence quiet;
+  bu_mo(X);
+  ASSERT_EQ(X.O, (std::vector<monom>{monom(), variable(0), monomial({2, 0}), monom()}));
+  EXPECT_EQ(X.hilb_fct, (std::vector<int>{2, 3, 4, 4}));
+  EXPECT_EQ(is_el_OO(X, variable(0)), 1);
+  EXPECT_EQ(is_el_O(X, variable(0)), -1);
+  EXPECT_EQ(is_el_O(X, monomial({2, 0})), -1);
+  EXPECT_EQ(is_el_OO(X, monom()), 0);
+}
+
 TEST(Scheme, WithoutPointsFindsNothingButTheMonomialOne) {
   const ring_in_force ring(101, 2);
   scheme X(0);
