@@ -1,8 +1,8 @@
 // Polynomials supported on an order ideal, kept as rows of coefficients.
 //
-// Separators, triangular sequences and the tails of Groebner basis elements are dense over the
-// order ideal O: entry i of the row is the coefficient of O[i], O ascending. They become
-// polynomials where they are printed or handed on.
+// Separators and the tails of Groebner basis elements are dense over the order ideal O: entry i of
+// the row is the coefficient of O[i], O ascending. They become polynomials where they are printed
+// or handed on.
 #pragma once
 
 #include <span>

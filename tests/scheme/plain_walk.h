@@ -80,6 +80,8 @@ class plain_walk {
     const Fp8 c = Fp8(1) / *pivot;
     pi_.push_back(static_cast<int>(pivot - reduced.begin()));
     for (Fp8& value : reduced) value *= c;
+    // Also where there is no inverse.
+    reduced[at(pi_.back())] = 1;
     for (Fp8& coefficient : f) coefficient *= c;
     q_.push_back(f);
     values_q_.push_back(reduced);
