@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "scheme/gorenstein.h"
 #include "tests/scheme/point_sets.h"
 #include "tests/scheme/shown.h"
 
@@ -38,6 +39,24 @@ TEST(Separators, AreMadeOnceWithLineInPlaceOfAnyOtherOutput) {
   EXPECT_EQ(loud.err.text(),
             "calculating triangular sequence ...\n[3][2][1]\n"
             "calculating biorthogonal sequence ...\n[3][2][1]\n");
+}
+
+TEST(Separators, AreMadeOnceWhateverIsKnownOfTheSet) {
+  const ring_in_force ring(101, 2);
+  scheme without = make_set({{0, 0}, {1, 0}, {2, 0}, {0, 1}});
+  scheme with = make_set({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
+  for (scheme* X : {&without, &with}) shown(is_ar_Go, *X);
+  EXPECT_EQ(without.is_CB, 0);
+  EXPECT_EQ(with.is_CB, 1);
+  for (scheme* X : {&without, &with}) {
+    const silence quiet;
+    EXPECT_EQ(X->sep, 0);
+    for (int times = 0; times < 3; ++times) {
+      need_sep(*X);
+      EXPECT_EQ(X->sep, 1);
+      EXPECT_EQ(quiet.out.text(), line);
+    }
+  }
 }
 
 TEST(Separators, LeaveStandardErrorAloneWhenQuiet) {
