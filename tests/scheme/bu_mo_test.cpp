@@ -101,6 +101,7 @@ TEST(BuMo, OfRepeatedPointsFillsTheOrderIdealUpWithOnes) {
   bu_mo(X);
   EXPECT_EQ(printed_monomials(X.O), (names{"1", "X", "1", "1"}));
   EXPECT_EQ(printed_basis(X), (names{"Y", "X2-X"}));
+  EXPECT_EQ(quiet.err.text(), "calculating triangular sequence ...\n[4][3]\n");
 }
 
 TEST(BuMo, TakesTwoHundredPointsOnALine) {

@@ -15,11 +15,16 @@ TEST(Scheme, StartsWithPointsAtTheOriginAndNoResults) {
   EXPECT_EQ(X.P, matrix(3, 4));
   EXPECT_EQ(X.O, std::vector<monom>(4));
   EXPECT_EQ(X.hilb_fct, std::vector<int>(4));
+  EXPECT_EQ(X.delta_fct, std::vector<int>(4));
+  EXPECT_EQ(X.linres[0], std::vector<int>(3));
+  EXPECT_EQ(X.linres[1], std::vector<int>(3));
   EXPECT_FALSE(X.has_bu_mo);
-  EXPECT_EQ(X.delta, 0);
-  EXPECT_EQ(X.sep, 0);
-  EXPECT_FALSE(X.Ix.has_value());
-  EXPECT_EQ(no_of_border(X), 0);
+  for (const int n : {X.sigma, X.delta, X.alpha, X.sep, X.is_CB, X.is_ar_Go, X.A_d_cols,
+                      X.A_d_maxdeg, X.linid, X.linom, no_of_border(X), no_of_pr(X)}) {
+    EXPECT_EQ(n, 0);
+  }
+  EXPECT_FALSE(X.Ix || X.beta_matrix || X.Can_Lf || X.min_Ix || X.socle);
+  EXPECT_TRUE(X.basis.empty() && X.pr_deg.empty() && X.A_d.empty() && X.A_d_coldeg.empty());
 }
 
 TEST(Scheme, OfANegativeNumberOfPointsHasNone) {

@@ -96,6 +96,7 @@ TEST(Separators, OfRepeatedPointsAreMeaninglessButThere) {
   const silence quiet;
   EXPECT_EQ(printed_separators(X).substr(0, 19), "separators of X : \n");
   EXPECT_EQ(X.separator.rows(), 3);
+  EXPECT_TRUE(quiet.err.text().ends_with("calculating biorthogonal sequence ...\n[3][2][1]\n"));
 }
 
 class SeparatorsProperty : public ::testing::TestWithParam<int> {};
