@@ -6,6 +6,9 @@
 
 namespace zep {
 
+// The largest one whose elements fit a byte.
+constexpr int largest_prime = 251;
+
 // An element of F_p for p <= 251, p = `prime`: the representative 0 .. p-1 in one byte.
 //
 // Every operator is a single look-up in a 256 x 256 table, entry [left][right], filled by `init`.

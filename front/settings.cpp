@@ -16,7 +16,6 @@ namespace zep {
 
 namespace {
 
-constexpr int largest_characteristic = 251;
 constexpr int longest_names = 26;
 
 bool is_prime(int n) {
@@ -82,7 +81,7 @@ void hello() {
 
 void characteristic(session& z) {
   const int n = z.typed.integer_or(0);
-  if (n < 2 || n > largest_characteristic) {
+  if (n < 2 || n > largest_prime) {
     complain("characteristic has to be a prime (2 - 251) !\n");
     return;
   }

@@ -18,6 +18,8 @@
 
 namespace zep {
 
+// The sums of 4 x 16 elements fill half of the registers of AVX2, and leave the others to the
+// factors. (Another shape means another packing, which combinations.cpp does.)
 constexpr std::size_t tile_rows = 4;
 constexpr std::size_t tile_cols = 16;
 

@@ -10,15 +10,17 @@ namespace zep {
 
 namespace {
 
-using avx2::bytes;
 using avx2::load;
+using avx2::word;
 
 static_assert(tile_rows == 4 && tile_cols == 16);
+static_assert(exact_in_a_float == 1U << 24U);
+static_assert(products_in_a_tile * 6 * 6 + 6 < 1U << 14U);
 
 // One row of a tile in 32-bit sums.
 struct tile_row {
-  bytes left;
-  bytes right;
+  word left;
+  word right;
 };
 
 [[gnu::target("avx2")]] inline tile_row row_of(const std::uint8_t* c) {
@@ -27,20 +29,21 @@ struct tile_row {
 }
 
 // A pair of neighbours, repeated.
-[[gnu::target("avx2")]] inline bytes pair_at(const std::int16_t* a) {
+[[gnu::target("avx2")]] inline word pair_at(const std::int16_t* a) {
   std::int32_t pair = 0;
   std::memcpy(&pair, a, sizeof pair);
   return _mm256_set1_epi32(pair);
 }
 
-[[gnu::target("avx2")]] inline bytes elements_at(const std::int16_t* b) {
+[[gnu::target("avx2")]] inline word elements_at(const std::int16_t* b) {
   return load<32>(reinterpret_cast<const std::uint8_t*>(b));
 }
 
-// Reduces sums below 2^24, which a float holds exactly, as it does the products of p with integers
-// that are not greater. The reciprocal is too small by at most 3 parts in 2^23, and rounding adds
-// one: so the quotient is not greater than the true one, and by less than
-// 2^24 / p * 4 / 2^23 + 1 = 8 / p + 1 smaller, and the rest below p + 8.
+// Reduces sums x below 2^24, which a float holds exactly, as it does the products of p with
+// integers that are not greater. The reciprocal is too small by at most 3 parts in 2^23, and
+// rounding adds one: so the quotient is not greater than the true one, and smaller by less than x /
+// p * 4 / 2^23 + 1. The rest is below p + x / 2^21. That is p + 8, or, for p < 8, where sums are
+// below 2^14, at most p: always less than 2 * p, so that p is subtracted once if at all.
 class reduction {
  public:
   [[gnu::target("avx2")]] explicit reduction(lane p)
@@ -49,7 +52,7 @@ class reduction {
         p_in_lanes_(avx2::all_lanes(p)) {}
 
   [[gnu::target("avx2")]] void store(std::uint8_t* c, const tile_row& sums) const {
-    bytes lanes = _mm256_packus_epi32(rest(sums.left), rest(sums.right));
+    word lanes = _mm256_packus_epi32(rest(sums.left), rest(sums.right));
     lanes = _mm256_min_epu16(lanes, _mm256_sub_epi16(lanes, p_in_lanes_));
     // Packing works in the two halves of a word apart.
     lanes = _mm256_permute4x64_epi64(lanes, 0xD8);
@@ -57,7 +60,7 @@ class reduction {
   }
 
  private:
-  [[gnu::target("avx2")]] bytes rest(bytes sums) const {
+  [[gnu::target("avx2")]] word rest(word sums) const {
     const __m256 x = _mm256_cvtepi32_ps(sums);
     const __m256 quotient =
         _mm256_round_ps(_mm256_mul_ps(x, reciprocal_), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
@@ -66,10 +69,10 @@ class reduction {
 
   __m256 p_;
   __m256 reciprocal_;
-  bytes p_in_lanes_;
+  word p_in_lanes_;
 };
 
-[[gnu::target("avx2")]] inline void add_products(bytes& sums, bytes a, bytes b) {
+[[gnu::target("avx2")]] inline void add_products(word& sums, word a, word b) {
   sums = _mm256_add_epi32(sums, _mm256_madd_epi16(a, b));
 }
 
@@ -84,8 +87,8 @@ class reduction {
   tile_row row2 = row_of(c[2]);
   tile_row row3 = row_of(c[3]);
   for (std::size_t k = 0; k < pairs; ++k, a += 2 * tile_rows, b += 2 * tile_cols) {
-    const bytes left = elements_at(b);
-    const bytes right = elements_at(b + tile_cols);
+    const word left = elements_at(b);
+    const word right = elements_at(b + tile_cols);
     add_products(row0.left, pair_at(a), left);
     add_products(row0.right, pair_at(a), right);
     add_products(row1.left, pair_at(a + 2), left);

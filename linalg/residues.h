@@ -1,7 +1,8 @@
 // Products modulo p in 16-bit lanes, without a division and without a comparison.
 //
-// The constants are lanes too, and travel as arguments of lanes only: where the compiler sees that
-// one comes from an int it may spread all lanes to 32 bits, at a third of the speed.
+// A lane is a 16-bit number, of which a vector instruction takes many side by side. The constants
+// are lanes too. Keep them so in every signature: where one comes from an int, the compiler may
+// widen a loop to 32 bits, at a third of the speed.
 #pragma once
 
 #include <bit>
@@ -40,13 +41,14 @@ struct factor {
     return {static_cast<lane>(Fp8::prime), c.value(), static_cast<lane>((scaled >> 16U) + 1)};
   }
 
-  // The factor p - c, for c > 0: its error is p - e.
+  // The factor p - c, for c > 0: (2^16 + 1 - fraction) * p = (p - c) * 2^16 + p - e, so its error
+  // is p - e; the 2^16 is lost in the lane.
   constexpr factor negative() const {
     return {p, static_cast<lane>(p - c), static_cast<lane>(1 - fraction)};
   }
 };
 
-// c * s mod p for s < p.
+// c * s mod p for s < p and the fraction of a factor c, which itself is not needed.
 constexpr lane product(lane s, lane p, lane fraction) {
   return high_half(low_half(s, fraction), p);
 }

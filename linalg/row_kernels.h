@@ -24,13 +24,14 @@ struct row_kernels {
   // Sets d to c * d, or -d.
   void (*scale)(std::uint8_t* d, std::size_t n, factor c);
   void (*negate)(std::uint8_t* d, std::size_t n, lane p);
-  // Sets d to the elementwise product of a and b; d may be a or b.
+  // Sets d to the elementwise product of a and b modulo m.p; d may be a or b.
   void (*pointwise_product)(std::uint8_t* d, const std::uint8_t* a, const std::uint8_t* b,
-                            std::size_t n, divisor p);
+                            std::size_t n, divisor m);
   // A number, perhaps negative, that is the sum of a[i] * b[i] modulo p; n is at most
   // products_in_a_sum, and a and b may be the same.
   std::int32_t (*dot)(const std::uint8_t* a, const std::uint8_t* b, std::size_t n, lane p);
-  // Adds a product of matrices to a tile. Null where adding multiples of rows one by one is faster.
+  // Adds a product of matrices to a tile. Null where the variant has nothing faster than adding
+  // multiples of rows one by one.
   tile_kernel* add_to_tile;
 };
 

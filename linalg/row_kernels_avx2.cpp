@@ -18,13 +18,15 @@ template <std::size_t width, class Operation>
 [[gnu::target("avx2")]] inline void in_pieces(byte* d, const byte* a, const byte* b, std::size_t n,
                                               Operation of) {
   const std::size_t behind = n - width;
-  const bytes last = of(load<width>(a + behind), load<width>(b + behind));
+  const word last = of(load<width>(a + behind), load<width>(b + behind));
   for (std::size_t i = 0; i < behind; i += width) {
     store<width>(d + i, of(load<width>(a + i), load<width>(b + i)));
   }
   store<width>(d + behind, last);
 }
 
+// Only for functions of this file: one with another target attribute would not get it inlined,
+// which costs more than it saves. A variant that leaves short rows to this one calls its kernels.
 template <class Operation>
 [[gnu::target("avx2")]] inline void apply(byte* d, const byte* a, const byte* b, std::size_t n,
                                           Operation of) {
@@ -56,19 +58,19 @@ template <class Operation>
 }
 
 [[gnu::target("avx2")]] void negate(byte* d, std::size_t n, lane p) {
-  apply(d, d, d, n, negative{all_bytes(p)});
+  apply(d, d, d, n, negation{all_bytes(p)});
 }
 
 [[gnu::target("avx2")]] void pointwise_product(byte* d, const byte* a, const byte* b, std::size_t n,
-                                               divisor p) {
-  apply(d, a, b, n, product_modulo(p));
+                                               divisor m) {
+  apply(d, a, b, n, product_modulo(m));
 }
 
 // Sums of two products at a time, in eight 32-bit numbers.
 struct sum_of_products {
   const byte* a;
   const byte* b;
-  bytes sums;
+  word sums;
 
   template <std::size_t width>
   [[gnu::target("avx2")]] void add(std::size_t i) {
@@ -98,7 +100,7 @@ struct sum_of_products {
   for (; i < n; ++i) sum.add<1>(i);
 }
 
-[[gnu::target("avx2")]] inline std::int32_t total(bytes x) {
+[[gnu::target("avx2")]] inline std::int32_t total(word x) {
   __m128i y = _mm_add_epi32(_mm256_castsi256_si128(x), _mm256_extracti128_si256(x, 1));
   y = _mm_add_epi32(y, _mm_unpackhi_epi64(y, y));
   y = _mm_add_epi32(y, _mm_shuffle_epi32(y, 1));

@@ -29,7 +29,7 @@ void negate(byte* d, std::size_t n, lane /*p*/) {
   for (std::size_t i = 0; i < n; ++i) d[i] = Fp8::sub[0][d[i]];
 }
 
-void pointwise_product(byte* d, const byte* a, const byte* b, std::size_t n, divisor /*p*/) {
+void pointwise_product(byte* d, const byte* a, const byte* b, std::size_t n, divisor /*m*/) {
   for (std::size_t i = 0; i < n; ++i) d[i] = Fp8::mul[a[i]][b[i]];
 }
 

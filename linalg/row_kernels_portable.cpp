@@ -14,6 +14,8 @@ inline byte difference(byte d, byte s, byte p) {
   return static_cast<byte>(d - s + borrowed);
 }
 
+// d + c * s as d - (p - c) * s: a difference takes the compiler one instruction less than a sum
+// that may not fit a byte.
 void axpy(byte* __restrict d, const byte* __restrict s, std::size_t n, factor c) {
   const auto p8 = static_cast<byte>(c.p);
   const lane fraction = c.negative().fraction;
@@ -47,9 +49,9 @@ void negate(byte* d, std::size_t n, lane p) {
 
 // The maximum changes nothing. Without it the compiler finds that it may multiply the quotient in
 // bytes, for which baseline processors have no instruction, and packs and unpacks once more.
-void pointwise_product(byte* d, const byte* a, const byte* b, std::size_t n, divisor p) {
+void pointwise_product(byte* d, const byte* a, const byte* b, std::size_t n, divisor m) {
   for (std::size_t i = 0; i < n; ++i) {
-    const auto rest = static_cast<std::int16_t>(remainder(low_half(a[i], b[i]), p));
+    const auto rest = static_cast<std::int16_t>(remainder(low_half(a[i], b[i]), m));
     d[i] = static_cast<byte>(std::max(rest, std::int16_t{0}));
   }
 }

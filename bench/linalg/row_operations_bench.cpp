@@ -1,22 +1,20 @@
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
+#include "bench/irregular_numbers.h"
 #include "linalg/row_kernels.h"
 #include "linalg/row_operations.h"
 
 namespace zep {
 namespace {
 
-// A row of n elements that are neither zero nor regular.
-std::vector<Fp8> some_row(std::size_t n, unsigned salt) {
+std::vector<Fp8> some_row(std::size_t n, std::uint64_t start) {
+  irregular_numbers numbers(start);
   std::vector<Fp8> row(n);
-  unsigned x = salt;
-  for (Fp8& element : row) {
-    x = x * 1664525U + 1013904223U;
-    element = static_cast<int>(x >> 9U);
-  }
+  for (Fp8& element : row) element = Fp8(numbers.below(Fp8::prime));
   return row;
 }
 
@@ -48,6 +46,10 @@ void run_product(operands& x) { pointwise_product(x.d.data(), x.d.data(), x.s.da
 
 void run_dot(operands& x) { benchmark::DoNotOptimize(dot(x.d.data(), x.s.data(), x.d.size())); }
 
+// Lengths between which variants may change places, and more.
+const std::vector<std::vector<std::int64_t>> primes_and_lengths = {
+    {2, 101, 251}, {16, 64, 100, 200, 400, 1000, 4000}};
+
 using operation = void (*)(operands&);
 
 void bench(benchmark::State& state, const row_kernels* kernels, operation run) {
@@ -64,7 +66,7 @@ void bench(benchmark::State& state, const row_kernels* kernels, operation run) {
 
 void add(const std::string& name, const row_kernels* kernels, operation run) {
   benchmark::RegisterBenchmark((name + ", " + kernels->name).c_str(), bench, kernels, run)
-      ->ArgsProduct({{2, 101, 251}, {16, 64, 100, 1000}});
+      ->ArgsProduct(primes_and_lengths);
 }
 
 void add_all(const std::string& name, operation run) {
@@ -74,7 +76,7 @@ void add_all(const std::string& name, operation run) {
 // All the benchmarks; the plain form of axpy is there to compare the look-ups with.
 const bool added = [] {
   benchmark::RegisterBenchmark("axpy, plain", bench, &look_up_kernels, plain_axpy)
-      ->ArgsProduct({{2, 101, 251}, {16, 64, 100, 1000}});
+      ->ArgsProduct(primes_and_lengths);
   add_all("axpy", run_axpy);
   add_all("axpy by 1", run_addition);
   add_all("axpy by -1", run_subtraction);

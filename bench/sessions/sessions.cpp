@@ -102,7 +102,7 @@ void print_heading(const options& chosen) {
             << "ZEP ms" << std::setw(column_width) << "MB";
   if (two) {
     std::cout << std::setw(column_width) << "OTHER ms" << std::setw(column_width) << "MB"
-              << std::setw(column_width) << "ratio";
+              << std::setw(column_width) << "OTHER/ZEP";
   }
   std::cout << "\n";
 }

@@ -14,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "arith/Fp8.h"
 #include "front/program.h"
 #include "tests/fuzz/sandbox.h"
 
@@ -28,7 +29,6 @@ struct size_limit {
 constexpr std::array<size_limit, 6> size_limits = {
     {{"linid", 6}, {"linom", 6}, {"linres", 6}, {"linsyz", 6}, {"omega", 12}, {"uf", 14}}};
 constexpr int largest_size = 27;
-constexpr int largest_characteristic = 251;
 
 bool is_space(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
@@ -85,7 +85,7 @@ bool may_take_long(std::string_view text) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     const int number = largest_number(words[i]);
     if (number <= limit || is_coordinate(words, i)) continue;
-    if (number > largest_characteristic || !is_characteristic(words, i)) return true;
+    if (number > zep::largest_prime || !is_characteristic(words, i)) return true;
   }
   return false;
 }

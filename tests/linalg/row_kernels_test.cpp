@@ -16,6 +16,15 @@ TEST(RowKernels, LookUpsAndPortableLoopsRunEverywhere) {
   EXPECT_EQ(runnable[1], &portable_kernels);
 }
 
+TEST(RowKernels, AllVariantsForX86AreTestedHere) {
+#if defined(__x86_64__) || defined(__i386__)
+  if (avx2_kernels() == nullptr) GTEST_SKIP() << "this processor lacks AVX2";
+  EXPECT_EQ(runnable_kernels().size(), 3U);
+#else
+  GTEST_SKIP() << "no such processor";
+#endif
+}
+
 TEST(RowKernels, AVariantIsInForceAsLongAsItsGuardLives) {
   const row_kernels* const before = &kernels_in_force::get();
   {

@@ -14,11 +14,14 @@ namespace {
 
 using row = std::vector<Fp8>;
 
-// Around all widths of vectors, and of parts of them.
-const std::size_t lengths[] = {0,  1,  2,  3,  4,  5,  7,  8,  9,  15,  16,
-                               17, 23, 31, 32, 33, 47, 63, 64, 65, 100, 1000};
+// In bytes; no variant has a wider one.
+constexpr std::size_t widest_vector = 32;
+// Around all widths of vectors, and of parts of them, and several times the widest one.
+const std::size_t lengths[] = {0,  1,  2,  3,  4,  5,  7,  8,  9,   15,  16,  17,
+                               23, 31, 32, 33, 47, 63, 64, 65, 100, 127, 129, 1000};
+static_assert(4 * widest_vector <= 129);
 // Offsets below it make up all alignments of a vector.
-constexpr std::size_t margin = 32;
+constexpr std::size_t margin = widest_vector;
 
 class RowOperations : public variant_in_force {};
 INSTANTIATE_TEST_SUITE_P(Every, RowOperations, testing::ValuesIn(runnable_kernels()),
@@ -94,7 +97,8 @@ TEST_P(RowOperations, AgreeWithTheTablesAtEveryPairOfOffsets) {
   std::mt19937 random(11);
   for (const int p : {2, 3, 101, 251}) {
     const ring_in_force ring(p);
-    for (const std::size_t n : {5U, 15U, 33U, 64U}) {
+    for (const std::size_t n :
+         {std::size_t{5}, std::size_t{15}, widest_vector + 1, 2 * widest_vector}) {
       const row a = padded_row(random, n);
       const row b = padded_row(random, n);
       for (const int c : {1, p - 1, below(random, p)}) {
