@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "scheme/beta_matrix.h"
+#include "scheme/bu_mo.h"
+#include "scheme/separators.h"
 #include "tests/draw.h"
+#include "tests/scheme/everything.h"
 #include "tests/scheme/point_sets.h"
 
 namespace zep {
@@ -229,17 +232,31 @@ const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
 // Three points on one line and two on another: the separators of the second and third point have
 // proportional leading forms.
 const std::vector<coordinates> two_lines = {{0, 0}, {1, 0}, {2, 0}, {0, 1}, {0, 2}};
+// A conic that vanishes at all points but the last separates it, so its leading form is 0.
+const std::vector<coordinates> one_off_two_lines = {{0, 0}, {1, 0}, {2, 0}, {3, 0},
+                                                    {0, 1}, {0, 2}, {0, 3}, {1, 1}};
+// Sets with delta = 1, the first with the Cayley-Bacharach property.
+const std::vector<coordinates> one_line = {{0, 0}, {1, 0}, {2, 0}};
+const std::vector<coordinates> one_off_the_line = {{0, 0}, {1, 0}, {2, 0}, {0, 1}};
+
+// A set for which `make` has been computed, and nothing else.
+template <class Make>
+scheme set_with(Make make, const std::vector<coordinates>& points) {
+  scheme X = make_set(points);
+  const silence quiet;
+  make(X);
+  return X;
+}
 
 TEST(DeltaUniformity, IsDecidedByCayleyBacharachWhenDeltaIsOne) {
   const ring_in_force ring(101, 2);
-  scheme line_of_points = make_set({{0, 0}, {1, 0}, {2, 0}});
-  EXPECT_EQ(delta_verdict(line_of_points),
+  scheme X = make_set(one_line);
+  EXPECT_EQ(delta_verdict(X),
             "scheme has Cayley-Bacharach property\n"
             "since delta = 1, scheme has also delta uniform property\nand is even 2-uniform\n" +
                 line);
-  EXPECT_FALSE(line_of_points.beta_matrix.has_value());
-  scheme with_one_off = make_set({{0, 0}, {1, 0}, {2, 0}, {0, 1}});
-  EXPECT_EQ(delta_verdict(with_one_off),
+  scheme Y = make_set(one_off_the_line);
+  EXPECT_EQ(delta_verdict(Y),
             "scheme has NOT Cayley-Bacharach property\n"
             "hence it cannot have delta uniform property\n" +
                 line);
@@ -283,7 +300,7 @@ TEST(NUniformity, IsRefusedForNBelowOne) {
   for (const int n : {0, -1, -2147483647 - 1}) {
     EXPECT_EQ(n_verdict(X, n), "n-unifomity only defined for n > 0 !!!\n" + line);
   }
-  EXPECT_FALSE(X.has_bu_mo);
+  EXPECT_EQ(contents(X), contents(make_set(triangle)));
 }
 
 TEST(NUniformity, IsRefusedForNAboveDelta) {
@@ -293,16 +310,16 @@ TEST(NUniformity, IsRefusedForNAboveDelta) {
     EXPECT_EQ(n_verdict(X, n),
               "sorry, but checking n-unifomity for n > delta is not supported yet\n" + line);
   }
-  EXPECT_TRUE(X.has_bu_mo);
-  EXPECT_EQ(X.sep, 0);
+  EXPECT_EQ(contents(X), contents(set_with(need_bu_mo, triangle)));
 }
 
 TEST(NUniformity, ForNEqualToDeltaIsDeltaUniformity) {
   const ring_in_force ring(101, 2);
-  for (const auto& points : {triangle, two_lines}) {
+  for (const auto& points : {triangle, two_lines, one_line, one_off_the_line}) {
     scheme X = make_set(points);
     scheme Y = X;
-    EXPECT_EQ(n_verdict(X, 2), delta_verdict(Y));
+    EXPECT_EQ(n_verdict(X, set_with(need_bu_mo, points).delta), delta_verdict(Y));
+    EXPECT_EQ(contents(X), contents(Y));
   }
 }
 
@@ -339,6 +356,24 @@ TEST(Uniformity, MakesItsPrerequisitesOnce) {
             "calculating triangular sequence ...\n[3][2][1]\n"
             "calculating biorthogonal sequence ...\n[3][2][1]\n"
             "calculating beta matrix ...\n[2][1]\n");
+}
+
+TEST(Uniformity, StoresNothingButItsPrerequisites) {
+  const ring_in_force ring(101, 2);
+  for (const auto& points : {triangle, two_lines, one_off_two_lines}) {
+    const std::string prerequisites = contents(set_with(beta_matrix, points));
+    scheme X = make_set(points);
+    delta_verdict(X);
+    EXPECT_EQ(contents(X), prerequisites);
+    scheme Y = make_set(points);
+    n_verdict(Y, 1);
+    EXPECT_EQ(contents(Y), prerequisites);
+  }
+  for (const auto& points : {one_line, one_off_the_line}) {
+    scheme X = make_set(points);
+    delta_verdict(X);
+    EXPECT_EQ(contents(X), contents(set_with(need_sep, points)));
+  }
 }
 
 TEST(Uniformity, OfNoPointsDoesNotFail) {
