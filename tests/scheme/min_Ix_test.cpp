@@ -5,6 +5,9 @@
 #include <map>
 #include <numeric>
 
+#include "scheme/bu_mo.h"
+#include "tests/scheme/computing.h"
+#include "tests/scheme/everything.h"
 #include "tests/scheme/plain_artinian.h"
 #include "tests/scheme/point_sets.h"
 #include "tests/scheme/shown.h"
@@ -231,6 +234,19 @@ TEST(MinIx, IsMadeOnce) {
   EXPECT_EQ(out.str(), heading + "1 polynomials :\nmin1 = Y\n" + line + degrees_heading +
                            "deg 1 : 1 generator(s)\n" + line);
   EXPECT_EQ(loud.out.text() + loud.err.text(), "");
+}
+
+TEST(MinIx, NeedsTheOrderIdealOnlyAndReportsNothingOfItsOwn) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set(triangle);
+  const written walk = by([&](std::ostream&) { need_bu_mo(X); });
+  scheme Y = make_set(triangle);
+  const written generators = by([&](std::ostream&) { min_Ix(Y); });
+  EXPECT_EQ(generators.out, walk.out);
+  EXPECT_EQ(generators.err, walk.err);
+  Y.min_Ix.reset();
+  Y.Can_Lf.reset();
+  EXPECT_EQ(contents(Y), contents(X));
 }
 
 TEST(MinIx, BreaksLongLinesBehindTheWidthOfTheLabel) {
