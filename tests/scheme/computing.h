@@ -24,4 +24,14 @@ written by(Compute compute) {
   return {given.str(), quiet.out.text(), quiet.err.text()};
 }
 
+// Runs compute(standard output). What comes of it on a screen that shows both standard streams.
+template <class Compute>
+std::string on_screen(Compute compute) {
+  const captured screen(std::cout);
+  const captured err(std::cerr);
+  std::cerr.rdbuf(std::cout.rdbuf());
+  compute(std::cout);
+  return screen.text();
+}
+
 }  // namespace zep

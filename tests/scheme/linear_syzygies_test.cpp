@@ -6,6 +6,7 @@
 #include "tests/arith/power_product.h"
 #include "tests/captured.h"
 #include "tests/ring_in_force.h"
+#include "tests/scheme/computing.h"
 
 namespace zep {
 namespace {
@@ -95,6 +96,15 @@ TEST(LinearSyzygies, AreZeroWhereSomethingIsLeftWhichADotMarks) {
   ASSERT_EQ(found.syzygies.count(), 1);
   EXPECT_EQ(found.syzygies.no_of_nonzero(), 0);
   EXPECT_EQ(found.out, ".");
+}
+
+TEST(LinearSyzygies, AreCountedBeforeTheyAreMarked) {
+  const ring_in_force ring(101, 2);
+  const raised_dim raised;
+  const form_vectors G = generators(
+      {sum_of({{1, X() * Y()}, {1, Z(2)}}), polynomial(Y(2)), sum_of({{1, X(2)}, {2, Z(2)}})});
+  EXPECT_EQ(on_screen([&](std::ostream&) { linear_syzygies(G, pairs_of_generators(G)); }),
+            "eliminating syzygies ...\n[2].[1].\n");
 }
 
 TEST(LinearSyzygies, UseWhatEarlierPairsHaveLeft) {
