@@ -93,6 +93,25 @@ TEST(Linsyz, PrintsTheSyzygiesEachTimeAndMarksNothing) {
   }
 }
 
+TEST(Linsyz, PrintsTheSyzygiesOfALevelBehindTheirNumber) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_generators(triangle);
+  EXPECT_EQ(on_screen([&](std::ostream& out) { linsyz(out, X); }),
+            "I_X has 3 generators of degree 2\neliminating syzygies ...\n[2][1]\n"
+            "2 syzygies in degree 1 found\n[ - Y + Z;\nX;\n 0 ]\n[ X - Z;\n 0;\n- Y ]\n\n" +
+                line);
+}
+
+TEST(Linsyz, LeavesTheMarkOfLinid) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_generators(triangle);
+  by([&](std::ostream&) { linid(X); });
+  by([&](std::ostream& out) { linsyz(out, X); });
+  EXPECT_EQ(X.linid, 1);
+  by([&](std::ostream& out) { putlinsyz(out, X); });
+  EXPECT_EQ(X.linid, 1);
+}
+
 const std::vector<coordinates> ten_points = {{1, 2, 3}, {4, 5, 6}, {7, 8, 10}, {3, 1, 4},
                                              {2, 7, 1}, {8, 2, 8}, {1, 8, 2},  {8, 4, 5},
                                              {9, 0, 4}, {5, 2, 3}};
@@ -151,6 +170,17 @@ TEST(DispLinid, ShowsZerosBeforeAnythingIsComputed) {
   EXPECT_EQ(
       shown(disp_linid, {{1, 2, 3}}),
       "    | 1   2   3   \n------------------\ndeg | 0   -1  -2  \nI_X | 0   0   0   \n" + line);
+}
+
+TEST(DispLinid, HasColumnsAsWideAsTheirEntries) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{1, 2, 3}});
+  X.alpha = 2;
+  X.linres[0] = {7, 1000, 12345};
+  EXPECT_EQ(shown(disp_linid, X),
+            "    | 1   2    3     \n---------------------\ndeg | 2   1    0     \n"
+            "I_X | 7   1000 12345 \n" +
+                line);
 }
 
 TEST(DispLinid, IsPartOfTheDisplayOnceTheNumbersAreThere) {

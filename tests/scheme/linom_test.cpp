@@ -13,6 +13,9 @@ namespace {
 
 const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
 
+const std::vector<coordinates> three_collinear_points_and_two = {
+    {0, 0, 0}, {0, 0, 1}, {0, 0, 2}, {0, 1, 0}, {1, 0, 0}};
+
 const std::string table_of_triangle =
     "    | 1   2   \n--------------\ndeg | 0   -1  \nw_R | 2   3   \n" + line;
 
@@ -48,8 +51,8 @@ TEST(Linom, WithoutLinearRelationsHasItsGeneratorsAlone) {
 
 TEST(Linom, CountsTheGeneratorsOfLeastDegreeOnly) {
   const ring_in_force ring(101, 3);
-  // Three collinear points and two others: generators to Y, X and Z^2.
-  scheme X = with_presentation({{0, 0, 0}, {0, 0, 1}, {0, 0, 2}, {0, 1, 0}, {1, 0, 0}});
+  // Generators to Y, X and Z^2.
+  scheme X = with_presentation(three_collinear_points_and_two);
   ASSERT_EQ(no_of_pr(X), 3);
   by([&](std::ostream&) { linom(X); });
   EXPECT_EQ(X.linres[1], (std::vector<int>{1, 2, 1}));
@@ -133,6 +136,26 @@ TEST(Putlinomsyz, WritesTheLinearRelationsAndMarksNothing) {
   const written t = by([&](std::ostream& out) { putlinomsyz(out, X); });
   EXPECT_EQ(t.given, "1\n2\nX-5Z\nY-7Z\n");
   EXPECT_EQ(X.linom, 0);
+}
+
+TEST(Linomsyz, PrintsTheRelationsBehindTheirNumber) {
+  const ring_in_force ring(101, 2);
+  scheme X = with_presentation({{5, 7}});
+  EXPECT_EQ(on_screen([&](std::ostream& out) { linomsyz(out, X); }),
+            "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n"
+            "[ X - 5Z ]\n[ Y - 7Z ]\n" +
+                line);
+}
+
+TEST(Linomsyz, EndsTheNumbersOfLinomAtTheLinearRelations) {
+  const ring_in_force ring(101, 3);
+  for (const auto relations : {linomsyz, putlinomsyz}) {
+    scheme X = with_presentation(three_collinear_points_and_two);
+    by([&](std::ostream&) { linom(X); });
+    by([&](std::ostream& out) { relations(out, X); });
+    EXPECT_EQ(X.linres[1], (std::vector<int>{0, 2, 1}));
+    EXPECT_EQ(X.linom, 1);
+  }
 }
 
 TEST(Linomsyz, ShowsNothingWhereThereIsNoLinearRelation) {
