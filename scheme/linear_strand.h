@@ -16,8 +16,8 @@ using level_report = std::function<bool(int level, const form_vectors& vectors)>
 // when it has vectors; level 0 in any case.
 void strand_of_generators(form_vectors generators, const level_report& report);
 
-// The strand that starts with linear relations at level 1. Only syzygies that are not zero make up
-// a further level.
+// The strand that starts with linear relations at level 1, which it reports in any case. Only
+// syzygies that are not zero make up a further level.
 void strand_of_relations(form_vectors relations, const level_report& report);
 
 }  // namespace zep

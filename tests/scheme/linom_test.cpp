@@ -178,6 +178,29 @@ TEST(DispLinom, PadsAnEntryToTheWidthOfTheColumnWithItsIndex) {
                 line);
 }
 
+TEST(DispLinom, HasNoWiderColumnsForItsDegrees) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{1, 2, 3}});
+  X.sigma = 99;
+  X.linres[1] = {1, 2, 3};
+  EXPECT_EQ(shown(disp_linom, X),
+            "    | 1   2   3   \n------------------\ndeg | -99 -100-101\n"
+            "w_R | 3   2   1   \n" +
+                line);
+}
+
+TEST(DispLinres, HasNoWiderColumnsForItsDegrees) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{1, 2, 3}});
+  X.alpha = 1;
+  X.sigma = 98;
+  X.linres = {std::vector<int>{2, 1, 0}, std::vector<int>{1, 2, 1}};
+  EXPECT_EQ(shown(disp_linres, X),
+            "    | 1   2   3   \n------------------\ndeg | 1   0   -1  \nI_X | 2   1   0   \n"
+            "------------------\nw_R | 1   2   1   \ndeg | -100-99 -98 \n" +
+                line);
+}
+
 TEST(DispLinres, ShowsBothStrandsWithWidthsForBoth) {
   const ring_in_force ring(101, 3);
   scheme X = make_set({{1, 2, 3}});
