@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "scheme/display.h"
+#include "scheme/linid.h"
 #include "scheme/omega.h"
 #include "tests/scheme/computing.h"
 #include "tests/scheme/shown.h"
@@ -164,6 +165,28 @@ TEST(Linomsyz, ShowsNothingWhereThereIsNoLinearRelation) {
   EXPECT_EQ(by([&](std::ostream& out) { linomsyz(out, X); }).given, "");
   EXPECT_EQ(by([&](std::ostream& out) { putlinomsyz(out, X); }).given, "");
   EXPECT_EQ(by([&](std::ostream& out) { putlinom(out, X); }).given, "");
+}
+
+// What is done for one strand leaves the numbers and the mark of the other.
+TEST(LinearStrands, AreComputedApart) {
+  const ring_in_force ring(101, 3);
+  scheme X = with_presentation(three_collinear_points_and_two);
+  by([&](std::ostream&) {
+    linid(X);
+    linom(X);
+  });
+  const auto both = X.linres;
+  for (const auto write : {linsyz, putlinsyz, putlinid, putlinom}) {
+    by([&](std::ostream& out) { write(out, X); });
+    EXPECT_EQ(X.linres, both);
+    EXPECT_EQ(X.linid, 1);
+    EXPECT_EQ(X.linom, 1);
+  }
+  for (const auto write : {linomsyz, putlinomsyz}) {
+    by([&](std::ostream& out) { write(out, X); });
+    EXPECT_EQ(X.linres[0], both[0]);
+    EXPECT_EQ(X.linid, 1);
+  }
 }
 
 TEST(DispLinom, PadsAnEntryToTheWidthOfTheColumnWithItsIndex) {
