@@ -8,6 +8,7 @@
 #include "arith/ring.h"
 #include "scheme/progress.h"
 #include "tests/front/transcript.h"
+#include "tests/ring_in_force.h"
 
 namespace zep {
 namespace {
@@ -27,6 +28,20 @@ TEST(Settings, StartWithThreeSpaceOverF101) {
   EXPECT_EQ(LL, 80);
   EXPECT_EQ(Line, line);
   EXPECT_EQ(varstring, "XYZTabcdefghijklmnopqrstuvw");
+}
+
+TEST(Settings, ThatWereChangedComeBackWithTheDefaults) {
+  const ring_in_force ring;
+  std::istringstream nothing;
+  session z(nothing);
+  z.range1 = 3;
+  z.range2 = 4;
+  set_line_length(60);
+  set_defaults(z);
+  EXPECT_EQ(z.range1, 0);
+  EXPECT_EQ(z.range2, 50);
+  EXPECT_EQ(LL, 80);
+  EXPECT_EQ(Line, line);
 }
 
 TEST(Settings, TheBannerIsTwoLinesOfTextBetweenSeparators) {
@@ -73,6 +88,19 @@ TEST(Characteristic, DeletesEveryIdentifierBehindTheSettings) {
   EXPECT_EQ(type_in("random A 1\nchar 1\nlist\n").out, "% " + line + refusal + "% scheme A\n% ");
 }
 
+TEST(Characteristic, DeletesEveryIdentifierEvenWithoutAChange) {
+  EXPECT_EQ(type_in("random A 1\nchar 101\n").out,
+            "% " + line + "% " + line + settings(3, "F101[XYZT]") + "A deleted\n" + line + "% ");
+}
+
+TEST(Characteristic, ThatIsRefusedLeavesTheRange) {
+  for (const std::string refused : {"1", "-7", "252"}) {
+    EXPECT_EQ(type_in("char " + refused + "\nrange 9\n").out,
+              refusal + "% current range : [0,50]\nenter upper border : " +
+                  "current range : [0,9]\n" + line + "% ");
+  }
+}
+
 TEST(Characteristic, KeepsTheUpperBorderBelowItForGood) {
   EXPECT_EQ(type_in("char 2\nrange 1\n").out.substr(type_in("char 2\n").out.size()),
             "current range : [0,1]\nenter upper border : current range : [0,1]\n" + line + "% ");
@@ -97,6 +125,24 @@ TEST(Dimension, IsRefusedBelowTwoAndWhenItIsNoNumber) {
 TEST(Dimension, DeletesEveryIdentifierBeforeTheSettings) {
   EXPECT_EQ(type_in("random A 1\ndim 3\n").out,
             "% " + line + "% A deleted\n" + line + settings(3, "F101[XYZT]") + "% ");
+}
+
+TEST(Dimension, ThatIsRefusedDeletesNothing) {
+  EXPECT_EQ(type_in("random A 1\ndim 1\nlist\n").out, "% " + line + too_small + "% scheme A\n% ");
+}
+
+TEST(Dimension, DeletesEveryIdentifierBeforeItAsksForNames) {
+  EXPECT_EQ(type_in("identifiers abcd\nrandom A 1\ndim 4\nabcde\n").out,
+            "% enter 4 identifiers for current ring : " + settings(3, "F101[abcd]") + "% " + line +
+                "% A deleted\n" + line +
+                "enter 5 identifiers for current ring : " + settings(4, "F101[abcde]") + "% ");
+}
+
+TEST(Dimension, KeepsSurplusNamesForLargerOnes) {
+  EXPECT_EQ(type_in("identifiers abcd\ndim 4\nuvwxyz\ndim 5\n").out,
+            "% enter 4 identifiers for current ring : " + settings(3, "F101[abcd]") +
+                "% enter 5 identifiers for current ring : " + settings(4, "F101[uvwxy]") + "% " +
+                settings(5, "F101[uvwxyz]") + "% ");
 }
 
 TEST(Dimension, AsksForNamesWhenThereAreNotEnough) {
@@ -153,11 +199,20 @@ TEST(Orderings, ShowTheSettingsAndDeleteEveryIdentifierEvenWithoutAChange) {
   EXPECT_EQ(type_in("random A 1\ndegrevlex\n").out,
             "% " + line + "% " + settings(3, "F101[XYZT]") + "A deleted\n" + line + "% ");
   EXPECT_EQ(monom_ordering_lt, degrevlex_lt);
+  EXPECT_EQ(type_in("deglex\nrandom A 1\ndeglex\n").out,
+            "% " + settings(3, "F101[XYZT]", "deg-lex") + "% " + line + "% " +
+                settings(3, "F101[XYZT]", "deg-lex") + "A deleted\n" + line + "% ");
   EXPECT_EQ(type_in("random A 1\nrandom B 1\ndeglex\n").out,
             "% " + line + "% " + line + "% " + settings(3, "F101[XYZT]", "deg-lex") +
                 "A deleted\nB deleted\n" + line + "% ");
   EXPECT_EQ(monom_ordering_lt, deglex_lt);
   EXPECT_EQ(proj_monom_ordering_le, proj_deglex_le);
+}
+
+TEST(Range, DeletesNothing) {
+  EXPECT_EQ(type_in("random A 1\nrange 9\nlist\n").out,
+            "% " + line + "% current range : [0,50]\nenter upper border : " +
+                "current range : [0,9]\n" + line + "% scheme A\n% ");
 }
 
 TEST(Range, IsCutBelowTheCharacteristic) {
