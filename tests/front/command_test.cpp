@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "tests/front/transcript.h"
+#include "tests/ring_in_force.h"
 
 namespace zep {
 namespace {
@@ -45,6 +46,18 @@ TEST(CommandTable, ASchemeCommandRefusesAnIdentifierOfAnotherType) {
   // A free record has a type of its own.
   execute(z, find_command("alpha"), 0);
   EXPECT_EQ(out.text(), "indentifier of wrong typ\n");
+}
+
+TEST(CommandTable, DelAndDisplayAcceptAnIdentifierOfAnotherType) {
+  std::istringstream typed("A");
+  session z(typed);
+  // Until it has its scheme, a record has a type of its own.
+  const auto without_scheme = reservation::read(z.typed, z.var);
+  const captured out(std::cout);
+  execute(z, find_command("display"), 0);
+  EXPECT_EQ(out.text(), ":\n");
+  execute(z, find_command("del"), 0);
+  EXPECT_EQ(out.text(), ":\nA deleted\n");
 }
 
 TEST(CommandTable, OnlyDelAndDisplayTakeAnIdentifierOfAnyType) {
@@ -96,6 +109,24 @@ TEST(Help, ListsSixNamesARowInColumnsOfThirteen) {
   EXPECT_EQ(row, "writelinres  ");
   ASSERT_TRUE(std::getline(rows, row));
   EXPECT_EQ(row + "\n", line);
+}
+
+TEST(Help, FillsTheLineLength) {
+  const ring_in_force ring;
+  for (const int columns : {1, 3, 10}) {
+    set_line_length(13 * columns + 12);
+    const captured out(std::cout);
+    help();
+    std::istringstream rows(out.text());
+    std::string row;
+    std::getline(rows, row);
+    std::getline(rows, row);
+    EXPECT_EQ(static_cast<int>(row.size()), 13 * columns);
+    while (rows.peek() != '-' && std::getline(rows, row)) {
+    }
+    std::getline(rows, row);
+    EXPECT_EQ(row + "\n", Line);
+  }
 }
 
 TEST(Refusals, NameTheOtherProgram) {

@@ -96,6 +96,19 @@ TEST(IdentifierTable, DeletesQuietly) {
   table.del_all(true);
   EXPECT_EQ(out.text(), "");
   EXPECT_EQ(table.find("A"), unknown_identifier);
+  EXPECT_EQ(table.type(0), 0);
+}
+
+TEST(IdentifierTable, DisplaysNeitherNameNorContentsOfAnotherType) {
+  std::istringstream typed("A");
+  input in(typed);
+  identifier_table table;
+  const auto without_scheme = reservation::read(in, table);
+  const captured out(std::cout);
+  table.list_all(false);
+  EXPECT_EQ(out.text(), "\n");
+  table.list_all(true);
+  EXPECT_EQ(out.text(), "\n:\n");
 }
 
 }  // namespace

@@ -31,7 +31,8 @@ TEST(Input, AWordWithoutALimitHasAnyLength) {
 }
 
 TEST(Input, ControlAndNonAsciiBytesAreCharactersOfWords) {
-  const std::string word("a\0\x01\xff", 4);
+  // Tab to carriage return are white space, their neighbours are not.
+  const std::string word("a\0\x01\x08\x0e\xff", 6);
   std::istringstream typed(word + " b");
   input in(typed);
   EXPECT_EQ(in.word(), word);

@@ -76,6 +76,12 @@ TEST(Parser, WhatIsLeftOfALineIsReportedFromItsFirstCharacterOn) {
   EXPECT_EQ(type_in("list '\n").out, "% unexpected '''\n% ");
 }
 
+TEST(Parser, WhatIsLeftOfALineIsReportedBehindAnErrorToo) {
+  EXPECT_EQ(type_in("alpha B and C\n").out, "% indentifier unknown\nunexpected 'and C'\n% ");
+  EXPECT_EQ(type_in("random A 1\nA\v\nnonsense \t!\n").out,
+            "% " + line + "% " + shown_A + "% command or indentifier unknown\nunexpected '!'\n% ");
+}
+
 TEST(Parser, BytesOfEveryKindAreReportedAsTheyAre) {
   const std::string bytes("\x01\xff\0z", 4);
   EXPECT_EQ(type_in("list " + bytes + "\n").out, "% unexpected '" + bytes + "'\n% ");
