@@ -9,8 +9,10 @@ message=$'\nNew: can\'t allocate enough memory'
 # try WHAT KILOBYTES: runs the commands on standard input in so much address space.
 try() {
   local status=0 err
-  err=$( (ulimit -v "$2" && exec "$zep") 2>&1 >/dev/null) || status=$?
-  [ "$status" -eq 10 ] && [[ "$err" == *"$message" ]] ||
+  # The dot keeps the line end, which the shell would drop.
+  err=$( (ulimit -v "$2" && exec "$zep") 2>&1 >/dev/null || status=$?; printf .; exit "$status") ||
+    status=$?
+  [ "$status" -eq 10 ] && [[ "$err" == *"$message"$'\n.' ]] ||
     complain "$1: status $status, standard error: $(head -c 200 <<<"$err")"
 }
 
@@ -20,6 +22,8 @@ pad() { head -c "$1" /dev/zero | tr '\0' "$2"; }
 try 'large tables' 100000 < <(printf 'quiet\nrandom A 20000\nbumo A\n')
 try 'many points' 100000 < <(printf 'dim 26\nrandom A 2147483647\n')
 try 'a long number' 30000 < <(printf 'get A 1\n1 '; pad 20000000 7; printf ' 1 1\n')
+try 'a number that is read, but too long for what comes then' 30000 \
+  < <(printf 'get A 1\n1 '; pad 7800000 7; printf ' 1 1\n')
 try 'a long word' 30000 < <(printf 'scheme A '; pad 60000000 a; printf '\n')
 
 # Every computation, in all sizes of address space from one that is hardly enough for the program to
@@ -64,6 +68,13 @@ done
 squeeze $'dim 5\nrandom A 90' linres
 squeeze $'dim 5\nrandom A 90' putlinres
 [ "$exhausted" -ge 60 ] || complain "memory was exhausted $exhausted times only"
+
+# What is deleted gives its memory back: there is room for the large set or for the small ones.
+small_ones() { for i in {1..20}; do printf 'random S%s 1000\nbumo S%s\n' "$i" "$i"; done; }
+large_one() { printf 'random A 3000\nbumo A\n'; }
+(echo quiet; small_ones; echo del_all; large_one) |
+  (ulimit -v 45000 && exec "$zep") >/dev/null 2>&1 || complain 'no room behind del_all'
+try 'large and small sets together' 45000 < <(echo quiet; small_ones; large_one)
 
 # What is only reported or dropped needs no memory.
 if ! (printf 'list '; pad 40000000 a; printf '\n') | (ulimit -v 30000 && exec "$zep") >/dev/null; then
