@@ -6,9 +6,8 @@ namespace zep {
 // Makes the surroundings safe for a long session:
 // - /dev/null takes the place of a standard descriptor that is closed, so that no file opened later
 //   takes its number and receives what is meant for the terminal;
-// - a result file that may not grow further, and a pipe that is not read any more, are failed
-// writes,
-//   and not the end of the process;
+// - a result file that may not grow further, and a pipe that is not read any more, make a write
+//   fail, and do not end the process;
 // - the stack has all the space that it will need, so that exhausted memory is seen where memory is
 //   asked for, and nowhere else.
 void prepare_process();
