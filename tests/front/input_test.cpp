@@ -107,6 +107,7 @@ TEST(Input, TheRestOfALineBeginsWithItsFirstCharacterThatIsNotWhiteSpace) {
   EXPECT_EQ(rest.str(), "x  y ");
   EXPECT_TRUE(in.at_line_end());
   EXPECT_FALSE(in.line_goes_on());
+  EXPECT_TRUE(in.at_line_end());
   EXPECT_EQ(in.word(), "z");
   EXPECT_FALSE(in.line_goes_on());
 }

@@ -44,6 +44,20 @@ TEST(Settings, ThatWereChangedComeBackWithTheDefaults) {
   EXPECT_EQ(Line, line);
 }
 
+TEST(Settings, ChangeOneAtATime) {
+  const std::string question = "enter 4 identifiers for current ring : ";
+  const std::string border = "current range : [0,50]\nenter upper border : current range : [0,9]\n";
+  EXPECT_EQ(
+      type_in("identifiers abcdef\ndeglex\nrange 9\ndim 4\nchar 31\ndim 5\ndegrevlex\n"
+              "deglex\nrange 8\n")
+          .out,
+      "% " + question + settings(3, "F101[abcd]") + "% " + settings(3, "F101[abcd]", "deg-lex") +
+          "% " + border + line + "% " + settings(4, "F101[abcde]", "deg-lex") + "% " + line +
+          settings(4, "F31[abcde]", "deg-lex") + "% " + settings(5, "F31[abcdef]", "deg-lex") +
+          "% " + settings(5, "F31[abcdef]") + "% " + settings(5, "F31[abcdef]", "deg-lex") +
+          "% current range : [0,9]\nenter upper border : current range : [0,8]\n" + line + "% ");
+}
+
 TEST(Settings, TheBannerIsTwoLinesOfTextBetweenSeparators) {
   const captured out(std::cout);
   hello();
