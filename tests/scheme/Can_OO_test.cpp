@@ -146,6 +146,17 @@ TEST(CanOO, GivesUpOnFormsThatLeadInACircle) {
   }
 }
 
+TEST(CanOO, RaisesTheDimensionSoThatTheZeroThatIsLeftIsProjective) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X(2)};
+  const std::vector<polynomial> Can = {polynomial(0)};
+  polynomial f(X(2));
+  Can_OO(f, OO, Can, S);
+  ASSERT_EQ(sign(f), 0);
+  EXPECT_EQ(f.term(0).dim(), proj);
+}
+
 TEST(CanOO, LowersTheRaisedDimensionAgain) {
   const ring_in_force ring(101, 2);
   const scheme S = three_points();

@@ -108,6 +108,56 @@ TEST(Omega, BreaksLongEntriesWhereTheLineEnds) {
   EXPECT_LT(longest, 80U);
 }
 
+std::string text_from_column(int column, const polynomial& f) {
+  std::ostringstream out;
+  counter = column;
+  out << f;
+  return out.str();
+}
+
+// Entries whose text would change if they began a column further left or right.
+struct telling_entries {
+  void add(const polynomial& f, int column) {
+    const std::string text = text_from_column(column, f);
+    left += column > 0 && text != text_from_column(column - 1, f) ? 1 : 0;
+    right += text != text_from_column(column + 1, f) ? 1 : 0;
+  }
+  int left = 0;
+  int right = 0;
+};
+
+TEST(Omega, BreaksTheFirstEntryAsBehindABracketAndTheOthersAsAtTheMargin) {
+  telling_entries first;
+  telling_entries later;
+  const auto check = [&](const std::vector<coordinates>& points) {
+    scheme X = with_omega(points);
+    std::string columns;
+    for (int j = 0; j < X.A_d_cols; ++j) {
+      for (int i = 0; i < no_of_pr(X); ++i) {
+        const polynomial& f = entry_of_A_d(X, i, j);
+        const int column = i == 0 ? 2 : 0;
+        columns += (i == 0 ? "[ " : ";\n") + text_from_column(column, f);
+        (i == 0 ? first : later).add(f, column);
+      }
+      columns += " ]\n";
+    }
+    const std::string text = shown(disp_omegamat, X);
+    ASSERT_EQ(counter, 0);
+    ASSERT_TRUE(
+        text.starts_with("the coloms of A_" + std::to_string(dim) + " :\n" + columns + line));
+  };
+  for_each_set(check);
+  const ring_in_force ring(251, 2);
+  for (int s = 9; s < 30; ++s) {
+    std::vector<coordinates> points;
+    for (int t = 1; t <= s; ++t) points.push_back({t, t * t % 17});
+    check(points);
+  }
+  EXPECT_GT(first.left, 0);
+  EXPECT_GT(first.right, 0);
+  EXPECT_GT(later.right, 0);
+}
+
 TEST(Omega, ReportsItsStages) {
   const ring_in_force ring(101, 2);
   scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
@@ -146,6 +196,18 @@ TEST(Omega, IsComputedOnce) {
   need_omega(X);
   EXPECT_EQ(X.A_d.data(), made);
   EXPECT_EQ(quiet.err.text(), "");
+}
+
+TEST(Omega, ReplacesAPresentationThatIsThere) {
+  const ring_in_force ring;
+  scheme X = with_omega(points_of_frame());
+  const std::string before = shown(disp_omega, X) + shown(disp_omegamat, X);
+  const std::vector<int> pr_deg = X.pr_deg;
+  const silence quiet;
+  omega(X);
+  EXPECT_EQ(shown(disp_omega, X) + shown(disp_omegamat, X), before);
+  EXPECT_EQ(X.pr_deg, pr_deg);
+  EXPECT_EQ(static_cast<int>(X.A_d.size()), X.A_d_cols);
 }
 
 TEST(Omega, LeavesTheDimensionAsItWas) {

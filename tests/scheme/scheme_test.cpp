@@ -27,6 +27,16 @@ TEST(Scheme, StartsWithPointsAtTheOriginAndNoResults) {
   EXPECT_TRUE(X.basis.empty() && X.pr_deg.empty() && X.A_d.empty() && X.A_d_coldeg.empty());
 }
 
+TEST(Scheme, StartsWithoutAPresentationOfTheCanonicalModule) {
+  const scheme X(4);
+  EXPECT_EQ(no_of_pr(X), 0);
+  EXPECT_TRUE(X.pr_deg.empty());
+  EXPECT_EQ(X.A_d_cols, 0);
+  EXPECT_TRUE(X.A_d.empty());
+  EXPECT_EQ(X.A_d_maxdeg, 0);
+  EXPECT_TRUE(X.A_d_coldeg.empty());
+}
+
 TEST(Scheme, OfANegativeNumberOfPointsHasNone) {
   const scheme X(-3);
   EXPECT_EQ(X.s, 0);
