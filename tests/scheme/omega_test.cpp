@@ -73,6 +73,14 @@ TEST(Omega, WritesNoShiftByZeroAndNoMultiplicityOne) {
   EXPECT_EQ(shown(disp_omega, X), heading + "P^6(-1) + P^2 --> P^2 + P(1) --> w_R --> 0\n" + line);
 }
 
+TEST(Omega, IsShownByTheStoredNumbersDownToRelationsOfDegreeZero) {
+  const ring_in_force ring(101, 3);
+  scheme X = with_omega({{0, 0, 0}, {0, 0, 1}, {0, 0, 2}, {0, 1, 0}, {1, 0, 0}});
+  X.A_d_maxdeg = 1;
+  X.A_d_coldeg = {3, 2};
+  EXPECT_EQ(shown(disp_omega, X), heading + "P^2 + P^3(1) --> P^2 + P(1) --> w_R --> 0\n" + line);
+}
+
 TEST(Omega, PutsEntriesOnLinesOfTheirOwn) {
   const ring_in_force ring(101, 2);
   scheme X = with_omega({{0, 0}, {1, 0}, {0, 1}});
@@ -234,6 +242,9 @@ TEST(Omega, OfNoPointsIsEmptyAndMadeEachTime) {
   scheme X = make_set({});
   EXPECT_EQ(shown(disp_omega, X), heading + " -->  --> w_R --> 0\n" + line);
   EXPECT_EQ(shown(disp_omegamat, X), columns_and_generators("", ""));
+  EXPECT_EQ(X.pr_deg, (std::vector<int>{0, 0}));
+  EXPECT_EQ(X.A_d_maxdeg, 0);
+  EXPECT_EQ(X.A_d_coldeg, std::vector<int>{0});
   const silence quiet;
   std::ostringstream out;
   disp_omega(out, X);
