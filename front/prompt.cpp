@@ -15,7 +15,7 @@ std::string on_the_line;
 bool prompt(std::string_view text) {
   on_the_line = text;
   if (shown) std::cout << text;
-  return std::cout.good();
+  return std::cout.flush().good();
 }
 
 void show_prompts(bool on) { shown = on; }

@@ -12,7 +12,8 @@ inline constexpr std::string_view command_prompt = "% ";
 inline constexpr std::string_view filename_prompt = "enter filename : ";
 
 // Prints the text on standard output, unless prompts are off, and remembers it as the prompt that
-// is on the line. False when standard output can't be written any more.
+// is on the line. All that has been printed comes to be seen: what follows may take long. False
+// when standard output can't be written any more.
 bool prompt(std::string_view text);
 
 // Turns prompts on, as they are at the start, or off.

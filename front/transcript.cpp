@@ -10,7 +10,7 @@ repeated_input::int_type repeated_input::underflow() {
     line_ += traits_type::to_char_type(c);
   }
   if (c == traits_type::eof() && line_.empty()) return c;
-  to_ << line_ << '\n';
+  to_ << line_ << '\n' << std::flush;
   if (c == '\n') line_ += '\n';
   setg(line_.data(), line_.data(), line_.data() + line_.size());
   return traits_type::to_int_type(*gptr());

@@ -8,8 +8,8 @@
 namespace zep {
 
 // Hands on what another buffer reads, line by line, and writes each line to a stream when it is
-// first looked at: behind its prompt. Both must outlive this. A last line without end gets one
-// there.
+// first looked at: behind its prompt, and before it is carried out. Both must outlive this. A last
+// line without end gets one there.
 class repeated_input : public std::streambuf {
  public:
   repeated_input(std::streambuf& source, std::ostream& to) : source_(source), to_(to) {}

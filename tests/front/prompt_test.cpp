@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "tests/captured.h"
+#include "tests/flushes.h"
 
 namespace zep {
 namespace {
@@ -24,6 +25,22 @@ TEST(Prompt, IsNotShownWhilePromptsAreOff) {
   show_prompts(true);
   EXPECT_EQ(out.text(), "");
   EXPECT_EQ(take_prompt(), command_prompt);
+}
+
+// Whatever follows may take long, or be the end.
+TEST(Prompt, BringsOutWhatStandsBeforeIt) {
+  noted_flushes seen;
+  std::streambuf* const before = std::cout.rdbuf(&seen);
+  std::cout << "an answer\n";
+  prompt(command_prompt);
+  EXPECT_EQ(seen.flushed(), "an answer\n% ");
+  show_prompts(false);
+  std::cout << "another\n";
+  prompt(command_prompt);
+  EXPECT_EQ(seen.flushed(), "an answer\n% another\n");
+  show_prompts(true);
+  std::cout.rdbuf(before);
+  static_cast<void>(take_prompt());
 }
 
 TEST(Prompt, TellsWhenNobodyCanSeeIt) {

@@ -6,6 +6,8 @@
 #include <sstream>
 #include <string>
 
+#include "tests/flushes.h"
+
 namespace zep {
 namespace {
 
@@ -44,6 +46,17 @@ TEST(RepeatedInput, RepeatsALineNoSoonerThanItIsLookedAt) {
   EXPECT_EQ(repeat.str(), "a\n");
   in >> word;
   EXPECT_EQ(repeat.str(), "a\nb\n");
+}
+
+TEST(RepeatedInput, BringsALineOutBeforeItIsCarriedOut) {
+  std::stringbuf source("a\nb\n");
+  noted_flushes seen;
+  std::ostream repeat(&seen);
+  repeated_input input(source, repeat);
+  std::istream in(&input);
+  std::string word;
+  in >> word;
+  EXPECT_EQ(seen.flushed(), "a\n");
 }
 
 TEST(RepeatedInput, OfNothingIsNothing) {

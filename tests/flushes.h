@@ -1,0 +1,24 @@
+// What a stream has handed on to whoever looks at its other end.
+#pragma once
+
+#include <sstream>
+#include <string>
+
+namespace zep {
+
+// A buffer for an output stream that tells what was in it when it was flushed last.
+class noted_flushes : public std::stringbuf {
+ public:
+  const std::string& flushed() const { return flushed_; }
+
+ protected:
+  int sync() override {
+    flushed_ = str();
+    return 0;
+  }
+
+ private:
+  std::string flushed_;
+};
+
+}  // namespace zep
