@@ -6,7 +6,7 @@ namespace zep {
 void start_editing(const completer& /*complete*/) {}
 
 // The terminal itself does the editing, and hands over whole lines.
-typed_line read_line(const std::string& /*prompt*/, bool /*shown*/) {
+typed_line read_line(const std::string& /*prompt*/, const std::string& /*before_it*/) {
   const held_interrupts held;
   std::string text;
   while (true) {

@@ -65,8 +65,6 @@ char** complete_word(const char* word, int start, int /*end*/) {
   const std::string before(rl_line_buffer, static_cast<std::size_t>(start));
   editor().found = editor().complete(editor().prompt, before);
   if (editor().found.files) return ::rl_completion_matches(word, next_file);
-  // A blank behind a command would have the next line looked at for what it takes.
-  rl_completion_suppress_append = 1;
   return ::rl_completion_matches(word, next_word);
 }
 
@@ -119,6 +117,8 @@ void start_editing(const completer& complete) {
   rl_completer_word_break_characters = " \t";
   // An interrupt is shown behind the line, not where the cursor is.
   ::rl_variable_bind("echo-control-characters", "off");
+  // Lines that are pasted are like lines that are typed: each has its answer behind it.
+  ::rl_variable_bind("enable-bracketed-paste", "off");
   struct sigaction action {};
   action.sa_handler = note_continuation;
   action.sa_flags = SA_RESTART;
@@ -126,7 +126,7 @@ void start_editing(const completer& complete) {
   ::using_history();
 }
 
-typed_line read_line(const std::string& prompt, bool shown) {
+typed_line read_line(const std::string& prompt, const std::string& before_it) {
   const held_interrupts held;
   editor().held = &held;
   editor().prompt = prompt;
@@ -135,7 +135,7 @@ typed_line read_line(const std::string& prompt, bool shown) {
     give_up_line();
     return {typed_line::ending::interrupt, {}};
   }
-  const std::unique_ptr<char, free_memory> line(::readline(shown ? prompt.c_str() : ""));
+  const std::unique_ptr<char, free_memory> line(::readline(before_it.c_str()));
   if (line == nullptr) return {typed_line::ending::end_of_input, {}};
   return {typed_line::ending::line, std::string(line.get())};
 }

@@ -11,8 +11,9 @@ namespace zep {
 
 namespace {
 
-bool is_blank(const std::string& line) {
-  return line.find_first_not_of(" \t") == std::string::npos;
+std::string without_blanks_at_its_end(std::string line) {
+  line.erase(line.find_last_not_of(" \t") + 1);
+  return line;
 }
 
 }  // namespace
@@ -28,10 +29,12 @@ terminal_input::int_type terminal_input::underflow() {
   while (!ended_) {
     const std::string prompted = take_prompt();
     std::cout.flush();
-    typed_line typed = read_line(prompted, prompts_are_shown());
+    typed_line typed = read_line(prompted, screen_.text());
+    screen_.start_anew();
     if (typed.how == typed_line::ending::line) {
-      if (!is_blank(typed.text)) remember_line(typed.text);
-      line_ = std::move(typed.text) + "\n";
+      line_ = without_blanks_at_its_end(std::move(typed.text));
+      if (!line_.empty()) remember_line(line_);
+      line_ += '\n';
       setg(line_.data(), line_.data(), line_.data() + line_.size());
       return traits_type::to_int_type(*gptr());
     }

@@ -5,13 +5,15 @@
 #include <string>
 
 #include "front/line_editor.h"
+#include "front/screen_line.h"
 
 namespace zep {
 
-// Reads one line after the other with the line editor, which it starts and ends. Where a command is
-// awaited, an interrupt clears the line; where something else is, underflow throws `interrupted`,
-// which only streams that report bad states by exceptions let pass. Once the input has ended it
-// stays ended.
+// Reads one line after the other with the line editor, which it starts and ends. Blanks at the end
+// of a line are dropped: behind a command they would mean that its point set is named in the next
+// one. Where a command is awaited, an interrupt clears the line; where something else is, underflow
+// throws `interrupted`, which only streams that report bad states by exceptions let pass. Once the
+// input has ended it stays ended.
 class terminal_input : public std::streambuf {
  public:
   explicit terminal_input(const completer& complete);
@@ -23,6 +25,7 @@ class terminal_input : public std::streambuf {
   int_type underflow() override;
 
  private:
+  screen_line screen_;
   std::string line_;
   bool ended_ = false;
 };

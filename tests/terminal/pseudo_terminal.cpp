@@ -18,25 +18,26 @@ namespace {
 
 constexpr int patience_in_milliseconds = 20000;
 
-[[noreturn]] void become(const std::vector<std::string>& command) {
+[[noreturn]] void become(const std::vector<std::string>& command, const char* configuration) {
   std::vector<char*> words;
   words.reserve(command.size() + 1);
   for (const std::string& word : command) words.push_back(const_cast<char*>(word.c_str()));
   words.push_back(nullptr);
   // No terminal description of the machine's, and no key bindings of the user's.
   ::setenv("TERM", "xterm", 1);
-  ::setenv("INPUTRC", "/dev/null", 1);
+  ::setenv("INPUTRC", configuration, 1);
   ::execv(words.front(), words.data());
   ::_exit(127);
 }
 
 }  // namespace
 
-pseudo_terminal::pseudo_terminal(const std::vector<std::string>& command, unsigned short columns) {
+pseudo_terminal::pseudo_terminal(const std::vector<std::string>& command, unsigned short columns,
+                                 const char* configuration) {
   const winsize size{24, columns, 0, 0};
   program_ = ::forkpty(&terminal_, nullptr, nullptr, &size);
   if (program_ < 0) throw std::system_error(errno, std::generic_category(), "forkpty");
-  if (program_ == 0) become(command);
+  if (program_ == 0) become(command, configuration);
 }
 
 pseudo_terminal::~pseudo_terminal() {

@@ -12,8 +12,10 @@ namespace zep {
 // Runs a program on a pseudo-terminal, types for it, and sees what it shows.
 class pseudo_terminal {
  public:
-  // Starts the program with these arguments at a terminal of so many columns.
-  explicit pseudo_terminal(const std::vector<std::string>& command, unsigned short columns = 80);
+  // Starts the program with these arguments at a terminal of so many columns. Line editing reads
+  // its configuration from a file: one of the tests unless another is named.
+  explicit pseudo_terminal(const std::vector<std::string>& command, unsigned short columns = 80,
+                           const char* configuration = ZEP_TEST_INPUTRC);
   ~pseudo_terminal();
   pseudo_terminal(const pseudo_terminal&) = delete;
   pseudo_terminal& operator=(const pseudo_terminal&) = delete;

@@ -20,6 +20,10 @@ const std::string start_of_line = "\x01";
 const std::string search_backwards = "\x12";
 const std::string up = "\x1b[A";
 
+// With bracketed paste, which the key bindings of the tests turn on, line editing tells the
+// terminal before it awaits keys that it wants to know what is pasted.
+const std::string awaits_keys = "\x1b[?2004h";
+
 // A path that no test running beside this one has.
 std::string own_path(const std::string& name) {
   return testing::TempDir() + name + "-" + std::to_string(::getpid());
@@ -30,13 +34,12 @@ class Terminal : public testing::TestWithParam<const char*> {
  protected:
   pseudo_terminal zep_{{GetParam()}};
 
-  // The next prompt is on the screen, and the program awaits keys: line editing tells the terminal
-  // then that it wants to know what is pasted.
+  // The next prompt is on the screen, and the program awaits keys.
   void await_prompt() { await_question("% "); }
   void await_question(const std::string& text) {
     ASSERT_TRUE(zep_.shows(text)) << zep_.shown();
     if (edits_lines()) {
-      ASSERT_TRUE(zep_.shows("\x1b[?2004h")) << zep_.shown();
+      ASSERT_TRUE(zep_.shows(awaits_keys)) << zep_.shown();
     }
   }
   bool edits_lines() const { return GetParam() == std::string(ZEP_PROGRAM); }
@@ -70,6 +73,18 @@ TEST_P(Terminal, LeavesAtTheEndOfTheInput) {
   zep_.type(ctrl_d);
   expect("thanks for using ZEP");
   EXPECT_EQ(zep_.exit_status(), 0);
+}
+
+// As they can't be seen, they do not count.
+TEST_P(Terminal, DropsBlanksAtTheEndOfALine) {
+  await_prompt();
+  type_line("gbasis  ");
+  expect("command needs indentifier");
+  await_prompt();
+  type_line("random A 5 ");
+  await_prompt();
+  type_line("alpha A ");
+  expect("alpha = 2");
 }
 
 TEST_P(Terminal, LeavesWhenTheInputEndsInsideACommand) {
@@ -228,11 +243,24 @@ TEST_P(LineEditing, CompletesIdentifiersBehindCommandsThatTakeOne) {
   expect("scheme quadric:");
 }
 
-// A blank would have the name looked for in the next line.
-TEST_P(LineEditing, PutsNoBlankBehindACommand) {
+TEST_P(LineEditing, PutsABlankBehindAWordThatIsComplete) {
+  await_prompt();
+  type_line("random quadric 5");
+  await_prompt();
+  type_line("sigm\tqu\t");
+  expect("sigma = ");
   await_prompt();
   type_line("gb\t");
   expect("command needs indentifier");
+}
+
+TEST_P(LineEditing, TakesPastedLinesOneByOne) {
+  pseudo_terminal plain({GetParam()}, 80, "/dev/null");
+  plain.type("random A 5\nalpha A\n");
+  ASSERT_TRUE(plain.shows("alpha = 2")) << plain.shown();
+  plain.type("\x04");
+  EXPECT_EQ(plain.exit_status(), 0);
+  EXPECT_EQ(plain.shown().find(awaits_keys), std::string::npos) << plain.shown();
 }
 
 TEST_P(LineEditing, GivesUpASearchAtAnInterrupt) {
@@ -266,12 +294,32 @@ TEST_P(LineEditing, ShowsTheLineAgainWhenTheProgramGoesOn) {
 
 TEST_P(LineEditing, LeavesNoRoomForAPromptThatIsNotShown) {
   pseudo_terminal bare({GetParam(), "-q"});
-  ASSERT_TRUE(bare.shows("\x1b[?2004h")) << bare.shown();
+  ASSERT_TRUE(bare.shows(awaits_keys)) << bare.shown();
   bare.type("get A\n");
-  ASSERT_TRUE(bare.shows("\x1b[?2004h")) << bare.shown();
+  ASSERT_TRUE(bare.shows(awaits_keys)) << bare.shown();
   bare.type("x" + start_of_line + "1 \n");
   ASSERT_TRUE(bare.shows("malformed number") || bare.shows("unexpected")) << bare.shown();
   EXPECT_EQ(bare.shown().find("number of"), std::string::npos) << bare.shown();
+}
+
+// The question stays on the line, with its answer typed ahead and no line end behind it.
+TEST_P(LineEditing, KnowsWhatStandsBeforeThePrompt) {
+  await_prompt();
+  type_line("quiet");
+  await_prompt();
+  type_line("random A 5");
+  await_prompt();
+  type_line("writelinid A /dev/null");
+  await_question("enter filename : % ");
+  zep_.type(up);
+  expect("writelinid A /dev/null");
+  // To show another line the cursor goes back behind what was there.
+  zep_.type(up);
+  std::string behind_the_prompt = "\r";
+  for (std::size_t i = 0; i < std::string("enter filename : % ").size(); ++i) {
+    behind_the_prompt += "\x1b[C";
+  }
+  expect(behind_the_prompt);
 }
 
 TEST_P(LineEditing, CompletesFileNames) {
@@ -304,7 +352,7 @@ TEST_P(LineEditing, KnowsTheWidthOfTheTerminal) {
   const std::string row_up = "\x1b[A";
   for (const int columns : {80, 200}) {
     pseudo_terminal screen({GetParam()}, static_cast<unsigned short>(columns));
-    ASSERT_TRUE(screen.shows("\x1b[?2004h")) << screen.shown();
+    ASSERT_TRUE(screen.shows(awaits_keys)) << screen.shown();
     screen.type(std::string(120, 'x') + start_of_line + "\n");
     ASSERT_TRUE(screen.shows("unknown")) << screen.shown();
     EXPECT_EQ(screen.shown().find(row_up) != std::string::npos, columns == 80) << screen.shown();
