@@ -26,13 +26,40 @@ std::string ask_filename(input& in) {
 source_file::source_file(const std::string& name)
     : buffer_(open_source(name), std::ios::in), stream_(&buffer_) {}
 
+result_buffer::result_buffer(int descriptor, existing_contents existing)
+    : stdio_filebuf(descriptor, std::ios::out) {
+  if (existing == existing_contents::keep) {
+    kept_length_ = std::max<off_t>(::lseek(descriptor, 0, SEEK_END), 0);
+  }
+}
+
+void result_buffer::begin() {
+  if (begun_) return;
+  begun_ = true;
+  // A pipe has no length.
+  static_cast<void>(::ftruncate(fd(), kept_length_));
+}
+
+void result_buffer::take_back() {
+  const int descriptor = fd();
+  // The buffer still holds a part, which would be written at its end.
+  if (begun_) static_cast<void>(::ftruncate(descriptor, kept_length_));
+  static_cast<void>(::close(descriptor));
+}
+
+result_buffer::int_type result_buffer::overflow(int_type c) {
+  begin();
+  return stdio_filebuf::overflow(c);
+}
+
+std::streamsize result_buffer::xsputn(const char* text, std::streamsize count) {
+  if (count > 0) begin();
+  return stdio_filebuf::xsputn(text, count);
+}
+
 result_file::result_file(std::string name, existing_contents existing)
-    : name_(std::move(name)),
-      buffer_(open_result(name_, existing), std::ios::out),
-      stream_(&buffer_) {
-  if (!is_open()) return;
-  length_before_ = std::max<off_t>(::lseek(buffer_.fd(), 0, SEEK_END), 0);
-  open_file = this;
+    : name_(std::move(name)), buffer_(open_result(name_, existing), existing), stream_(&buffer_) {
+  if (is_open()) open_file = this;
 }
 
 result_file::~result_file() {
@@ -41,6 +68,7 @@ result_file::~result_file() {
 }
 
 void result_file::close() {
+  buffer_.begin();
   const bool flushed = stream_.flush().good();
   const bool closed = buffer_.close() != nullptr;
   open_file = nullptr;
@@ -48,11 +76,7 @@ void result_file::close() {
 }
 
 void result_file::abandon() {
-  if (open_file == nullptr) return;
-  const int descriptor = open_file->buffer_.fd();
-  // The buffer still holds a part, which would be written at its end.
-  static_cast<void>(::ftruncate(descriptor, open_file->length_before_));
-  static_cast<void>(::close(descriptor));
+  if (open_file != nullptr) open_file->buffer_.take_back();
 }
 
 }  // namespace zep

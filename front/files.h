@@ -33,12 +33,35 @@ class source_file {
   std::istream stream_;
 };
 
+// Writes a file through a descriptor, which it closes. What the file held stays until writing
+// begins, so that whoever gives up before that loses nothing.
+class result_buffer : public __gnu_cxx::stdio_filebuf<char> {
+ public:
+  result_buffer(int descriptor, existing_contents existing);
+
+  // Begins to write: drops what the file held, unless it is kept or that has been done.
+  void begin();
+
+  // Takes back what has been written. The descriptor is closed, and nothing can be written any
+  // more.
+  void take_back();
+
+ protected:
+  int_type overflow(int_type c) override;
+  std::streamsize xsputn(const char* text, std::streamsize count) override;
+
+ private:
+  // What stays of the file once writing has begun.
+  std::int64_t kept_length_ = 0;
+  bool begun_ = false;
+};
+
 // A text file that results are written to.
 class result_file {
  public:
-  // Creates the file, readable for all and writable for owner and group unless the process's mask
-  // forbids it, or empties the one that exists or goes on behind its end. A pipe can't be opened
-  // when nobody reads it within a second. Check is_open.
+  // Opens the file, or creates it, readable for all and writable for owner and group unless the
+  // process's mask forbids it. What is written takes the place of what the file held, or goes
+  // behind it. A pipe can't be opened when nobody reads it within a second. Check is_open.
   explicit result_file(std::string name, existing_contents existing = existing_contents::drop);
   ~result_file();
   result_file(const result_file&) = delete;
@@ -56,10 +79,8 @@ class result_file {
 
  private:
   std::string name_;
-  __gnu_cxx::stdio_filebuf<char> buffer_;
+  result_buffer buffer_;
   std::ostream stream_;
-  // Length of the file before anything was written.
-  std::int64_t length_before_ = 0;
 };
 
 }  // namespace zep

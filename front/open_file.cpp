@@ -46,7 +46,7 @@ int open_source(const std::string& name) {
 }
 
 int open_result(const std::string& name, existing_contents existing) {
-  const int flags = O_WRONLY | O_CREAT | (existing == existing_contents::drop ? O_TRUNC : O_APPEND);
+  const int flags = O_WRONLY | O_CREAT | (existing == existing_contents::keep ? O_APPEND : 0);
   int descriptor = open_without_waiting(name, flags);
   constexpr int step = 10;
   for (int waited = 0; descriptor < 0 && errno == ENXIO && waited < patience; waited += step) {

@@ -13,8 +13,9 @@ enum class existing_contents { drop, keep };
 int open_source(const std::string& name);
 
 // A descriptor of a file to be written, or -1. Creates the file, readable for all and writable for
-// owner and group unless the process's mask forbids it, or empties the one that exists or goes on
-// behind its end. A pipe can't be opened when nobody reads it within a second.
+// owner and group unless the process's mask forbids it, or opens the one that exists, at its start
+// or, if its contents are kept, at its end. A pipe can't be opened when nobody reads it within a
+// second.
 int open_result(const std::string& name, existing_contents existing);
 
 }  // namespace zep
