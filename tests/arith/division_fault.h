@@ -7,10 +7,10 @@
 
 namespace zep {
 
-// Death tests see standard error only: sends standard output there before `action` runs.
+// Death tests see standard error only: makes the two streams change places before `action` runs.
 template <class Action>
 void with_output_on_standard_error(Action action) {
-  std::cout.rdbuf(std::cerr.rdbuf());
+  std::cerr.rdbuf(std::cout.rdbuf(std::cerr.rdbuf()));
   action();
 }
 
