@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <numeric>
 #include <sstream>
 #include <string>
@@ -267,13 +268,61 @@ TEST(Fp8, ComputesWithTheNewPrimeAfterInit) {
   EXPECT_EQ(Fp8(3) * Fp8(5), 1);
 }
 
-TEST(Fp8, InitLeavesEntriesBeyondThePrime) {
-  const ring_in_force before(251);
+TEST(Fp8, ComputesWithTheTablesOfTheOldPrimeBeforeInit) {
   const ring_in_force ring(7);
-  EXPECT_EQ(Fp8::add[6][7], 13);
-  EXPECT_EQ(Fp8::sub[7][6], 1);
-  EXPECT_EQ(Fp8::mul[10][20], 200);
-  EXPECT_EQ(Fp8::div[7][1], 7);
+  Fp8::prime = 5;
+  Fp::prime = 5;
+  EXPECT_EQ(Fp8(6) + Fp8(6), 5);
+  EXPECT_EQ(Fp8(1) - Fp8(6), 2);
+  EXPECT_EQ(Fp8(6) * Fp8(6), 1);
+  EXPECT_EQ(Fp8(4) / Fp8(6), 3);
+  EXPECT_EQ(-Fp8(1), 6);
+  EXPECT_EQ(abs(Fp8(4)), 3);
+  Fp8 x(3);
+  x.invert();
+  EXPECT_EQ(x, 5);
+}
+
+TEST(Fp8, ReadsModuloThePrimeOfFpAndReducesToItsOwn) {
+  const ring_in_force ring(101);
+  Fp8::prime = 7;
+  EXPECT_EQ(read("100"), 2);
+  EXPECT_EQ(read("102"), 1);
+}
+
+// Fills each table with an entry of its own that init doesn't make, and empties them when it is
+// destroyed.
+class spoilt_tables {
+ public:
+  spoilt_tables() { fill(252, 253, 254, 255); }
+  ~spoilt_tables() { fill(0, 0, 0, 0); }
+  spoilt_tables(const spoilt_tables&) = delete;
+  spoilt_tables& operator=(const spoilt_tables&) = delete;
+
+ private:
+  static void fill(int in_add, int in_sub, int in_mul, int in_div) {
+    std::memset(Fp8::add, in_add, sizeof Fp8::add);
+    std::memset(Fp8::sub, in_sub, sizeof Fp8::sub);
+    std::memset(Fp8::mul, in_mul, sizeof Fp8::mul);
+    std::memset(Fp8::div, in_div, sizeof Fp8::div);
+  }
+};
+
+TEST(Fp8, InitWritesTheCornersOfThePrimeAndNoColumnZeroOfDiv) {
+  const ring_in_force ring(7);
+  const spoilt_tables tables;
+  Fp8::init();
+  int wrong = 0;
+  for (int a = 0; a < 256; ++a) {
+    for (int b = 0; b < 256; ++b) {
+      const bool kept = a >= 7 || b >= 7;
+      wrong += (Fp8::add[a][b] == 252) != kept;
+      wrong += (Fp8::sub[a][b] == 253) != kept;
+      wrong += (Fp8::mul[a][b] == 254) != kept;
+      wrong += (Fp8::div[a][b] == 255) != (kept || b == 0);
+    }
+  }
+  EXPECT_EQ(wrong, 0);
 }
 
 TEST(Fp8, ReadsRationalsModuloThePrime) {
