@@ -59,7 +59,7 @@ class Fp {
   int q_ = 0;
 };
 
-inline Fp operator+(Fp a) { return a; }
+inline const Fp& operator+(const Fp& a) { return a; }
 inline Fp operator-(Fp a) { return Fp(Fp::prime - a.value()); }
 inline Fp operator+(Fp a, Fp b) { return a += b; }
 inline Fp operator-(Fp a, Fp b) { return a -= b; }

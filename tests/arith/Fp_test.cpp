@@ -9,6 +9,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <tuple>
 
 #include "tests/arith/division_fault.h"
 #include "tests/draw.h"
@@ -114,9 +115,34 @@ TEST(Fp, DivisionTakesACopyOfTheDivisor) {
   EXPECT_EQ(x.value(), 1);
 }
 
-TEST(Fp, UnaryPlusIsItsOperand) {
+TEST(Fp, UnaryPlusIsItsOperandItself) {
+  const Fp x(205);
+  const Fp& same = +x;
+  EXPECT_EQ(&same, &x);
+}
+
+TEST(Fp, OperatorsTakeUnreducedValuesAsTheyAre) {
   const ring_in_force ring(101);
-  EXPECT_EQ((+Fp(205)).value(), 205);
+  const Fp negative_zero = -Fp(0);
+  EXPECT_EQ((negative_zero + negative_zero).value(), 0);
+  EXPECT_EQ((Fp(50) + Fp(-60)).value(), -10);
+  EXPECT_EQ((negative_zero - Fp(1)).value(), 100);
+  EXPECT_EQ((Fp(0) - negative_zero).value(), 0);
+  EXPECT_EQ((Fp(1) - Fp(205)).value(), -2);
+  EXPECT_EQ((Fp(-2) * Fp(60)).value(), -19);
+  EXPECT_EQ((Fp(300) * Fp(3)).value(), 92);
+  EXPECT_EQ((Fp(-2) / Fp(2)).value(), -1);
+  EXPECT_EQ((-Fp(205)).value(), -104);
+  EXPECT_EQ((-Fp(-3)).value(), 104);
+}
+
+TEST(Fp, InvertReducesTheElementFirst) {
+  const ring_in_force ring(101);
+  for (const int unreduced : {103, 204, -99, -200}) {
+    Fp x(unreduced);
+    x.invert();
+    EXPECT_EQ(x.value(), 51) << unreduced;
+  }
 }
 
 TEST(Fp, NegationSubtractsFromThePrime) {
@@ -201,6 +227,8 @@ TEST(Fp, PowTakesTheMagnitudeOfTheSmallestExponent) {
 TEST(Fp, FirstPowerIsTheElementItself) {
   const ring_in_force ring(101);
   EXPECT_EQ(pow(Fp(150), 1).value(), 150);
+  EXPECT_EQ(pow(Fp(150), -1).value(), 150);
+  EXPECT_EQ(pow(Fp(-1), 1).value(), -1);
 }
 
 TEST(Fp, PrintsTheSymmetricRepresentative) {
@@ -222,8 +250,8 @@ TEST(Fp, PrintsOneAsPositiveModuloTwo) {
 TEST(Fp, PrintsAsTheStreamPrintsInts) {
   const ring_in_force ring(101);
   std::ostringstream out;
-  out << std::setw(5) << Fp(51);
-  EXPECT_EQ(out.str(), "  -50");
+  out << std::setw(5) << Fp(51) << std::showpos << Fp(7);
+  EXPECT_EQ(out.str(), "  -50+7");
 }
 
 TEST(Fp, SignAndAbsFollowThePrintedForm) {
@@ -236,6 +264,18 @@ TEST(Fp, SignAndAbsFollowThePrintedForm) {
       ASSERT_EQ(abs(Fp(a)).value(), printed < 0 ? -printed : printed) << a << " mod " << p;
       ASSERT_EQ(len(Fp(a)), static_cast<int>(text_of(Fp(a)).size())) << a << " mod " << p;
     }
+  }
+}
+
+TEST(Fp, SignAbsLenAndPrintingTakeUnreducedValuesAsTheyAre) {
+  const ring_in_force ring(101);
+  for (const auto& [value, expected_sign, expected_abs, printed] :
+       {std::tuple(-3, 1, -3, "-3"), std::tuple(-120, 1, -120, "-120"),
+        std::tuple(205, -1, -104, "104"), std::tuple(1200, -1, -1099, "1099")}) {
+    EXPECT_EQ(sign(Fp(value)), expected_sign) << value;
+    EXPECT_EQ(abs(Fp(value)).value(), expected_abs) << value;
+    EXPECT_EQ(text_of(Fp(value)), printed);
+    EXPECT_EQ(len(Fp(value)), static_cast<int>(std::string(printed).size())) << value;
   }
 }
 
@@ -328,6 +368,8 @@ TEST(Fp, IsZeroWhenNothingCouldBeRead) {
   const ring_in_force ring(101);
   EXPECT_EQ(read("abc").value(), 0);
   EXPECT_EQ(read("").value(), 0);
+  EXPECT_EQ(read("3/x").value(), 0);
+  EXPECT_EQ(read("3/").value(), 0);
 }
 
 TEST(FpDeathTest, ReadingADenominatorDivisibleByThePrimeEndsTheProcess) {
