@@ -1,12 +1,11 @@
 #include "front/command.h"
 
+#include <array>
 #include <iostream>
 #include <string_view>
 
 #include "arith/index.h"
-#include "arith/interrupt.h"
 #include "arith/output.h"
-#include "front/error.h"
 #include "front/point_entry.h"
 #include "front/random_points.h"
 #include "front/result_files.h"
@@ -22,7 +21,6 @@
 #include "scheme/min_Ix.h"
 #include "scheme/omega.h"
 #include "scheme/progress.h"
-#include "scheme/results_before.h"
 #include "scheme/separators.h"
 #include "scheme/socle.h"
 #include "scheme/uniformity.h"
@@ -97,9 +95,7 @@ void display_identifier(session& z, int identifier) { z.var.display(identifier, 
 
 void leave(session& z, int /*identifier*/) { z.quit = true; }
 
-}  // namespace
-
-const std::array<command_record, no_of_commands> command = {{
+constexpr auto table = std::to_array<command_record>({
     {"alpha", point_set, "A", "the least degree of a form that vanishes on A", show<alpha_X>},
     {"betamat", point_set, "A",
      "the beta matrix of A: leading forms of separators in a basis of some of them",
@@ -196,65 +192,24 @@ const std::array<command_record, no_of_commands> command = {{
     {"writelinid", point_set, "A FILE", "writes the table of linid as it is", writelinid},
     {"writelinom", point_set, "A FILE", "writes the table of linom as it is", writelinom},
     {"writelinres", point_set, "A FILE", "writes the table of linres as it is", writelinres},
-}};
-
-namespace {
-
-// Carries out what computes for X. An interrupt passes through and leaves X as it was.
-template <class Action>
-void leaving_nothing_half_done(scheme& X, Action action) {
-  const results_before before(X);
-  try {
-    action();
-  } catch (const interrupted&) {
-    before.restore(X);
-    throw;
-  }
-}
-
-// Reports an identifier that the command can't work with.
-bool accepts(const session& z, command_kind kind, int identifier) {
-  if (kind == command_kind::nothing) return true;
-  if (identifier == unknown_identifier) {
-    error(error_code::unknown_identifier);
-    return false;
-  }
-  if (identifier == no_identifier) {
-    error(error_code::needs_identifier);
-    return false;
-  }
-  if (kind == command_kind::scheme_identifier && z.var.type(identifier) != scheme_type) {
-    error(error_code::wrong_type);
-    return false;
-  }
-  return true;
-}
+});
 
 }  // namespace
 
+constinit const std::span<const command_record> command = table;
+
 int find_command(const std::string& name) {
-  for (int c = 0; c < no_of_commands; ++c) {
+  for (int c = 0; c < no_of_commands(); ++c) {
     if (name == command[at(c)].name) return c;
   }
   return -1;
-}
-
-void execute(session& z, int c, int identifier) {
-  if (c < 0 || c >= no_of_commands) return;
-  const command_record& todo = command[at(c)];
-  if (!accepts(z, todo.kind, identifier)) return;
-  if (todo.kind == command_kind::scheme_identifier) {
-    leaving_nothing_half_done(z.var.object(identifier), [&] { todo.action(z, identifier); });
-  } else {
-    todo.action(z, identifier);
-  }
 }
 
 void help() {
   constexpr int column_width = 13;
   const int columns = LL / column_width;
   std::cout << "list of commands in alphabetical order :";
-  for (int c = 0; c < no_of_commands; ++c) {
+  for (int c = 0; c < no_of_commands(); ++c) {
     const std::string_view name = command[at(c)].name;
     if (c % columns == 0) std::cout << "\n";
     std::cout << name << std::string(column_width - name.size(), ' ');

@@ -1,7 +1,7 @@
-// The table of commands, and carrying one out.
+// The table of commands.
 #pragma once
 
-#include <array>
+#include <span>
 #include <string>
 
 #include "front/session.h"
@@ -22,22 +22,13 @@ struct command_record {
   void (*action)(session& z, int identifier);
 };
 
-constexpr int no_of_commands = 67;
+// All commands, in alphabetical order. A command's number is its position here.
+extern const std::span<const command_record> command;
 
-// A command's number is its position here. Alphabetical.
-extern const std::array<command_record, no_of_commands> command;
-
-// Number of the command that shows an identifier, carried out for an identifier typed alone.
-constexpr int display_command = 14;
+inline int no_of_commands() { return static_cast<int>(command.size()); }
 
 // Number of the command with that name, or -1.
 int find_command(const std::string& name);
-
-// Checks the identifier that command c asks for, reports what is wrong with it, or else carries the
-// command out. A command that is interrupted leaves the scheme as it was, and lets `interrupted`
-// pass. A number outside the table does nothing. `identifier` is an index of the table,
-// unknown_identifier or no_identifier.
-void execute(session& z, int c, int identifier);
 
 // Prints the names of all commands.
 void help();

@@ -28,8 +28,8 @@ struct typed_line {
 // Makes ready for reading lines from the terminal. There is one editor in a process.
 void start_editing(const completer& complete);
 
-// Reads a line in answer to the prompt, and brings its end to the screen. What stands before it on its
-// line of the screen is there already: the prompt, unless prompts are off, and perhaps more. An
+// Reads a line in answer to the prompt, and brings its end to the screen. What stands before it on
+// its line of the screen is there already: the prompt, unless prompts are off, and perhaps more. An
 // interrupt ends it. Requires interrupts to be caught.
 typed_line read_line(const std::string& prompt, const std::string& before_it);
 

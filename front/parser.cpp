@@ -7,6 +7,7 @@
 #include "arith/interrupt.h"
 #include "front/command.h"
 #include "front/error.h"
+#include "front/execution.h"
 #include "front/prompt.h"
 
 namespace zep {
@@ -31,7 +32,7 @@ void carry_out(session& z, const std::string& word) {
   if (identifier == unknown_identifier) {
     error(error_code::unknown_word);
   } else {
-    execute(z, display_command, identifier);
+    execute(z, find_command("display"), identifier);
   }
 }
 

@@ -28,8 +28,8 @@ void take_leave(session& z, bool decorated) {
   if (decorated) std::cout << Line << "thanks for using ZEP\n" << Line;
 }
 
-// Carries out what the buffer reads, and repeats it on a stream if there is one.
-void carry_out(session& z, std::istream& in, std::streambuf& buffer, std::ostream* repeat) {
+// Runs the session that the buffer reads, and repeats it on a stream if there is one.
+void run_session(session& z, std::istream& in, std::streambuf& buffer, std::ostream* repeat) {
   std::optional<repeated_input> repeated;
   if (repeat != nullptr) repeated.emplace(buffer, *repeat);
   in.rdbuf(repeated ? &*repeated : &buffer);
@@ -47,14 +47,14 @@ std::ostream* repetition(const options& chosen, const session_source& opened, st
   return chosen.log ? &log : nullptr;
 }
 
-int carry_out_all(session& z, std::istream& in, const options& chosen, std::ostream& log) {
+int run_sessions(session& z, std::istream& in, const options& chosen, std::ostream& log) {
   for (const source& s : chosen.sources) {
     session_source opened(s, z.var);
     if (!opened.is_open()) {
       std::cerr << "zep: can't open " << s.text << "\n";
       return 1;
     }
-    carry_out(z, in, opened.buffer(), repetition(chosen, opened, log));
+    run_session(z, in, opened.buffer(), repetition(chosen, opened, log));
     if (has_to_stop(z)) return 1;
   }
   return 0;
@@ -77,7 +77,7 @@ int run_program(const options& chosen) {
   session z(in, chosen.seed);
   z.stop_on_error = chosen.stop_on_error;
   greet(z, chosen.decorated);
-  const int status = carry_out_all(z, in, chosen, log);
+  const int status = run_sessions(z, in, chosen, log);
   take_leave(z, chosen.decorated);
   return status;
 }

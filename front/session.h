@@ -1,4 +1,5 @@
-// What one run of the program holds besides the ring in force.
+// What a session finds and leaves, besides the ring in force: one run of the program can hold
+// several sessions, one after the other, which share it.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// The beta matrix: the leading forms of the separators.
+// The beta matrix: the leading forms of the separators. Here the leading form of a separator is its
+// part of degree sigma + 1, the greatest that one can have; 0 if its own degree is smaller.
 #pragma once
 
 #include <iosfwd>
@@ -7,7 +8,7 @@
 
 namespace zep {
 
-// Chooses delta separators whose leading forms are a basis of those of top degree, and writes the
+// Chooses delta separators whose leading forms are a basis of all of them, and writes the
 // leading form of every separator in that basis. Fills X.beta_matrix and X.basis. Writes progress.
 // Runs once; makes what it needs.
 void beta_matrix(scheme& X);

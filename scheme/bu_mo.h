@@ -11,8 +11,9 @@ namespace zep {
 // its divisors lie in O. The separators of the points are what the values are reduced by. (Moeller,
 // Buchberger: The construction of multivariate polynomials with preassigned zeros, 1982.)
 //
-// Fills everything that `scheme` lists under bu_mo, with `hilbert`. Writes progress, and Line to
-// standard output. Must not run twice on a scheme; assumes a degree-compatible order.
+// Fills everything that `scheme` lists under bu_mo, with `hilbert`. Writes progress, which calls
+// the reduced values a triangular sequence, and Line to standard output. Must not run twice on a
+// scheme; assumes a degree-compatible order.
 void bu_mo(scheme& X);
 
 // Runs bu_mo unless it has run.

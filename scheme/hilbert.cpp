@@ -10,10 +10,6 @@ namespace zep {
 
 namespace {
 
-int separator_degree(const scheme& X, int i) {
-  return X.O[at(leading_position(X.separator.row(i)))].tot_deg();
-}
-
 bool has_cayley_bacharach(const scheme& X) {
   for (int k = 1; k < X.s; ++k) {
     heed_interrupt();

@@ -1,5 +1,5 @@
-// What `bu_mo` and `sep` have found, in words: each function makes sure that the result exists,
-// prints it to `out` and ends with Line.
+// What `bu_mo` has found, but for the separators, and the Cayley-Bacharach verdict, in words: each
+// function makes sure that the result exists, prints it to `out` and ends with Line.
 #pragma once
 
 #include <iosfwd>

@@ -18,10 +18,14 @@ namespace zep {
 
 namespace {
 
-// P * x_a and P * x_b are border monomials, divisible by the leading monomials of two Groebner
-// basis elements; P, the position of a member of O, times x_a * x_b is their least common multiple.
+// The border form of a border monomial t is t - c, where c is its canonical form in R/(X_0), the
+// combination of members of O that it equals there.
+
+// Two border monomials P * x_a and P * x_b, divisible by the leading monomials of two Groebner
+// basis elements; P, the member of O at this position, times x_a * x_b is their least common
+// multiple.
 struct neighbours {
-  int P;
+  int position;
   int a;
   int b;
 };
@@ -83,14 +87,14 @@ class constants_of_relations {
   int size(int d) const { return begin(d + 1) - begin(d); }
 
   // The degree of x_b * (border form of P x_a) - x_a * (border form of P x_b).
-  int degree(const neighbours& pair) const { return X_.O[at(pair.P)].tot_deg() + 2; }
+  int degree(const neighbours& pair) const { return X_.O[at(pair.position)].tot_deg() + 2; }
 
   // The constants in that relation. The border forms' own monomials cancel, and what is left is
   // made of canonical forms.
   std::vector<Fp8> relation(const neighbours& pair) const {
     std::vector<Fp8> row(at(size(degree(pair))));
-    add_products(row, forms_.times(pair.P, pair.a).position, pair.b, Fp8(1));
-    add_products(row, forms_.times(pair.P, pair.b).position, pair.a, -Fp8(1));
+    add_products(row, forms_.times(pair.position, pair.a).position, pair.b, Fp8(1));
+    add_products(row, forms_.times(pair.position, pair.b).position, pair.a, -Fp8(1));
     return row;
   }
 
@@ -175,8 +179,8 @@ std::vector<int> minimal_elements(const scheme& X) {
 }  // namespace
 
 void min_Ix(scheme& X) {
-  need_Can_Lf(X);
   if (X.min_Ix) return;
+  need_Can_Lf(X);
   const std::vector<int> chosen = minimal_elements(X);
   ideal generators(static_cast<int>(chosen.size()));
   for (std::size_t m = 0; m < chosen.size(); ++m) {

@@ -33,6 +33,10 @@ int is_el_O(const scheme& X, const monom& t) {
   return i >= X.hilb_fct[at(degree - 1)] && i < X.hilb_fct[at(degree)] ? i : -1;
 }
 
+int separator_degree(const scheme& X, int i) {
+  return X.O[at(leading_position(X.separator.row(i)))].tot_deg();
+}
+
 int is_el_G(const scheme& X, const monom& t) { return X.Ix->find(t); }
 
 int is_el_B(const scheme& X, const monom& t) { return X.B_index.find(t); }

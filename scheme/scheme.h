@@ -27,7 +27,7 @@ struct scheme {
   // s rows of `dim` affine coordinates, in input order.
   matrix P;
 
-  // Made by `bu_mo`, marked by `has_bu_mo`. ------------------------------------------------------
+  // Made by `bu_mo`, marked by `has_bu_mo`.
 
   // True once bu_mo has run. (delta >= 1 says the same, but for a scheme without points.)
   bool has_bu_mo = false;
@@ -39,8 +39,8 @@ struct scheme {
   monom_index B_index;
   // The reduced Groebner basis of the vanishing ideal I(X).
   std::optional<groebner_basis> Ix;
-  // Row i holds, over O, the separator of point i: 1 at point i, 0 at the other points. Counts as
-  // computed from `sep` on. Repeated points leave rows of zeros.
+  // Row i holds, over O, the separator of point i: 1 at point i, 0 at the other points. Repeated
+  // points leave rows of zeros.
   matrix separator;
   // H(n) and delta H(n) for n = 0 .. s-1.
   std::vector<int> hilb_fct;
@@ -50,22 +50,22 @@ struct scheme {
   int delta = 0;
   int alpha = 0;
 
-  // Made by `sep`. -------------------------------------------------------------------------------
+  // Made by `sep`.
 
-  // 1 once the separators count as computed.
+  // 1 once somebody has asked for the separators; only then are the two properties decided by them.
   int sep = 0;
   // 1 if X has the Cayley-Bacharach property, is arithmetically Gorenstein. The socle can tell too.
   int is_CB = 0;
   int is_ar_Go = 0;
 
-  // Made by `beta_matrix`. -----------------------------------------------------------------------
+  // Made by `beta_matrix`.
 
   // Entry (i, l) is the coefficient of the leading form of separator basis[l] in that of separator
   // i: s rows, delta columns.
   std::optional<matrix> beta_matrix;
   std::vector<int> basis;
 
-  // Made by `need_Can_Lf`, `min_Ix` and `socle`. -------------------------------------------------
+  // Made by `need_Can_Lf`, `min_Ix` and `socle`.
 
   // Multiplication in the Artinian reduction.
   std::optional<canonical_forms> Can_Lf;
@@ -75,7 +75,6 @@ struct scheme {
   std::optional<ideal> socle;
 
   // Made by `omega`: a minimal presentation of the canonical module.
-  // -------------------------------
 
   // The positions in O of the monomials of its generators, projections, ascending.
   std::vector<int> pr;
@@ -91,7 +90,6 @@ struct scheme {
   std::vector<int> A_d_coldeg;
 
   // Made by `linid` and `linom`: numbers in linear strands, marked by these.
-  // ------------------------
 
   // Row 0 for I_X, from its first entry on; row 1 for w_R, from its last entry back; one entry for
   // each affine variable. Until they are computed, and where nothing is left, 0.
@@ -115,8 +113,9 @@ inline int no_of_pr(const scheme& X) { return static_cast<int>(X.pr.size()); }
 // The Groebner basis element g, 0 <= g < Ix->no_of_gens(). Requires bu_mo.
 polynomial groebner_element(const scheme& X, int g);
 
-// The separator of point i, 0 <= i < s. Requires sep.
+// The separator of point i, 0 <= i < s, and its degree. Require bu_mo.
 polynomial separator_of(const scheme& X, int i);
+int separator_degree(const scheme& X, int i);
 
 // Positions by monomial, -1 for one that is not there. Require bu_mo.
 // In O: of any degree; and with a short cut by degree (the monomial 1 is always at 0).

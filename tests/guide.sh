@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs the sessions in the user's guide and in README.md, and compares what they do with what stands
-# there. Fails also unless the guide mentions each command of `help`, and each link to a chapter of the
-# guide finds one.
+# there. Fails also unless each command of `help` is used in a session of the guide and has a row in its
+# last table, and each link to a chapter of the guide finds one.
 #   guide.sh ZEP TOP
 # All fenced blocks count, and there are no others than these:
 #   zep          a session; it runs in an empty folder
@@ -127,9 +127,11 @@ check_document README.md
 check_document docs/guide.md
 
 commands >"$work/commands"
+awk '/^```/ { inside = ($0 == "```zep"); next } inside' "$top/docs/guide.md" >"$work/sessions"
 [ -s "$work/commands" ] || complain 'help lists nothing'
 while read -r command; do
-  grep -q "\`${command}[\` ]" "$top/docs/guide.md" || complain "the guide does not mention $command"
+  grep -qx "$command\( .*\)\?" "$work/sessions" || complain "no session of the guide uses $command"
+  grep -q "^| \`$command\` |" "$top/docs/guide.md" || complain "no row of the guide is for $command"
 done <"$work/commands"
 
 chapters >"$work/chapters"

@@ -40,7 +40,7 @@ TEST_F(Completion, OffersCommandsAndIdentifiersWhereACommandIsAwaited) {
   for (const std::string before : {"", "  "}) {
     const completions all = found(at_command, before);
     EXPECT_FALSE(all.files);
-    EXPECT_EQ(all.words.size(), at(no_of_commands) + 2);
+    EXPECT_EQ(all.words.size(), command.size() + 2);
     EXPECT_TRUE(offers(all, "hilbertfn"));
     EXPECT_TRUE(offers(all, "first"));
   }

@@ -4,6 +4,8 @@
 #include <sstream>
 
 #include "arith/index.h"
+#include "front/command.h"
+#include "front/execution.h"
 #include "front/settings.h"
 
 namespace zep {
@@ -33,7 +35,7 @@ void carry_out_line(session& z) {
   if (c >= 0) {
     announce_and_execute(z, c);
   } else if (identifier >= 0) {
-    execute(z, display_command, identifier);
+    execute(z, find_command("display"), identifier);
   }
   z.typed.drop_rest_of_line();
 }
@@ -52,14 +54,14 @@ void announce_commands(const std::string& session_text) {
 }
 
 void add_announced(const std::string& out, command_set& commands) {
-  for (int c = 0; c < no_of_commands; ++c) {
+  for (int c = 0; c < no_of_commands(); ++c) {
     if (out.find(announcement(c)) != std::string::npos) commands[at(c)] = true;
   }
 }
 
 std::string missing_commands(const command_set& commands) {
   std::string names;
-  for (int c = 0; c < no_of_commands; ++c) {
+  for (int c = 0; c < no_of_commands(); ++c) {
     if (!commands[at(c)]) names += std::string(" ") + command[at(c)].name;
   }
   return names;

@@ -1,14 +1,13 @@
 // Which commands a session carries out.
 #pragma once
 
-#include <array>
 #include <string>
-
-#include "front/command.h"
+#include <vector>
 
 namespace zep {
 
-using command_set = std::array<bool, no_of_commands>;
+// Whether a command is in it, by its number.
+using command_set = std::vector<bool>;
 
 // Carries the session out as the program does. In what it prints, an announcement precedes each
 // command that gets the identifier it asks for, if it asks for one.

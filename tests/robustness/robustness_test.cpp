@@ -12,6 +12,7 @@
 #include <system_error>
 #include <vector>
 
+#include "front/command.h"
 #include "front/program.h"
 #include "tests/captured.h"
 #include "tests/robustness/carried_out.h"
@@ -88,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(All, Prefixes, testing::ValuesIn(prefix_sessions()),
 
 TEST(Prefixes, UseAllCommands) {
   const within_working_folder here;
-  command_set commands = {};
+  command_set commands(command.size());
   for (const std::string& name : prefix_sessions()) {
     add_announced(output_of(announce_commands, prefix_session(name)), commands);
   }
@@ -105,7 +106,7 @@ TEST(RandomSessions, DependOnNothingButTheirNumber) {
 TEST(RandomSessions, CarryOutEveryCommand) {
   constexpr unsigned sessions = 500;
   const scratch_folder scratch;
-  command_set commands = {};
+  command_set commands(command.size());
   for (unsigned seed = 1; seed <= sessions; ++seed) {
     // Those that divide by zero end their process.
     const outcome run =

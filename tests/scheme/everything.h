@@ -35,6 +35,9 @@ struct named_command {
 inline const std::vector<named_command>& all_commands() {
   static const std::vector<named_command> commands = {
       {"bumo", [](std::ostream&, scheme& X) { need_bu_mo(X); }},
+      {"alpha", alpha_X},
+      {"sigma", sigma_X},
+      {"delta", delta_X},
       {"gbasis", groebner},
       {"orderideal", order_ideal},
       {"hilbertfn", hilb_fct},
