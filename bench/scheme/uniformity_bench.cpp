@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "bench/scheme/points.h"
+#include "linalg/dependent_subset.h"
 #include "scheme/beta_matrix.h"
-#include "scheme/uniformity.h"
 
 namespace zep {
 namespace {
