@@ -90,6 +90,9 @@ TEST(List, IsElementComparesOverTheCommonSlots) {
   for (const monom& m : {X(), Y(), Z()}) EXPECT_TRUE(items.is_element(m));
   EXPECT_FALSE(items.is_element(power_product({1, 1, 0})));
   EXPECT_TRUE(items.is_element(projective({0, 1, 0, 7})));
+  items.add(projective({1, 1, 0, 1}));
+  EXPECT_TRUE(items.is_element(projective({1, 1, 0, 1})));
+  EXPECT_FALSE(items.is_element(projective({1, 1, 0, 2})));
 }
 
 TEST(List, MinDelOfOneElementLeavesAnEmptyList) {

@@ -12,10 +12,14 @@ mmm candidate(const monom& t, int n = 0) { return {.t = t, .n = n, .k = 0, .ins 
 
 const mmm& item(const list<mmm>& items, int place) { return *std::next(items.begin(), place); }
 
-TEST(Mmm, HoldsTheMonomialOneAtFirst) {
+TEST(Mmm, IsTheStartOfTheWalkAtFirst) {
   const ring_in_force ring;
-  EXPECT_EQ(sign(mmm().t), 0);
-  EXPECT_EQ(mmm().t.dim(), 3);
+  const mmm start;
+  EXPECT_EQ(sign(start.t), 0);
+  EXPECT_EQ(start.t.dim(), 3);
+  EXPECT_EQ(start.n, -1);
+  EXPECT_EQ(start.k, -1);
+  EXPECT_EQ(start.ins, 0);
 }
 
 TEST(Mmm, AssignmentTakesMonomialAndNumbers) {
@@ -40,6 +44,20 @@ TEST(Mmm, ComparisonsLookAtTheMonomialAlone) {
   EXPECT_FALSE(small == large);
   EXPECT_TRUE(small == candidate(small.t, 3));
   EXPECT_FALSE(small < candidate(small.t, 3));
+  EXPECT_FALSE(small > candidate(small.t, 3));
+  const mmm reached_otherwise{.t = small.t, .n = 9, .k = 2, .ins = 3};
+  EXPECT_TRUE(small == reached_otherwise);
+  EXPECT_FALSE(small < reached_otherwise || small > reached_otherwise);
+}
+
+TEST(Mmm, ComparisonsOfProjectiveMonomialsLookAtTheHomogenisingVariable) {
+  const ring_in_force ring;
+  const mmm once = candidate(projective({1, 0, 0, 1}));
+  const mmm twice = candidate(projective({1, 0, 0, 2}));
+  EXPECT_FALSE(once == twice);
+  EXPECT_TRUE(once < twice);
+  EXPECT_TRUE(twice > once);
+  EXPECT_TRUE(once == candidate(power_product({1, 0, 0})));
 }
 
 TEST(Mmm, ComparisonsFollowTheOrderInForce) {

@@ -125,6 +125,15 @@ TEST(Monom, LenIsTheWidthOfTheFactorsWithPositiveExponents) {
   EXPECT_EQ(len(power_product({251, 0, 12345})), 5 + 7);
 }
 
+TEST(Monom, LenLooksAtItsOwnSlotsOnly) {
+  const ring_in_force ring;
+  EXPECT_EQ(len(monom(1)), 3);
+  const monom affine(2);
+  const raised_dim raised;
+  EXPECT_EQ(len(affine), 9);
+  EXPECT_EQ(len(monom(2)), 12);
+}
+
 TEST(Monom, LenIsTheLengthOfTheTextExceptForOne) {
   std::mt19937 random(3);
   for (int n = 2; n <= 6; ++n) {
@@ -192,8 +201,10 @@ TEST(Monom, ProductHasTheDimensionOfTheRing) {
   const monom b = projective({1, 1, 1, 1});
   EXPECT_EQ((a * b).dim(), 3);
   EXPECT_EQ(text_of(a * b), "X^2Y^3Z^4");
+  EXPECT_EQ((a * b).exp(3), 0);
   EXPECT_EQ((a / b).dim(), 3);
   EXPECT_EQ(text_of(a / b), "YZ^2");
+  EXPECT_EQ((a / b).exp(3), 0);
   const raised_dim raised;
   EXPECT_EQ(text_of(a * b), "X^2Y^3Z^4T^5");
   EXPECT_EQ(text_of(a / b), "YZ^2T^3");
@@ -252,6 +263,7 @@ TEST(Monom, LcmAndGcdTakeSignedExtremesOverTheCommonSlots) {
   const monom b = power_product({-1, 2, 3});
   EXPECT_EQ(text_of(lcm(a, b)), "XY^2Z^3");
   EXPECT_EQ(text_of(gcd(a, b)), "X^-1Y^-2Z^3");
+  EXPECT_EQ(text_of(lcm(power_product({-5, 2, 0}), power_product({-3, 1, -1}))), "X^-3Y^2");
 }
 
 TEST(Monom, LcmAndGcdHaveTheDimensionAndTheRestOfTheFirst) {
