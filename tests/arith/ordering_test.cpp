@@ -8,8 +8,12 @@
 namespace zep {
 namespace {
 
-// Taken before any test changes it.
+// Taken before any test changes them.
 const int ordering_at_start = monom_ordering;
+const monom_comparison lt_at_start = monom_ordering_lt;
+const monom_comparison le_at_start = monom_ordering_le;
+const monom_comparison proj_lt_at_start = proj_monom_ordering_lt;
+const monom_comparison proj_le_at_start = proj_monom_ordering_le;
 
 // The truth values of lt(a, b), lt(b, a), le(a, b), le(b, a) when a is the smaller one.
 void expect_below(monom_comparison lt, monom_comparison le, const monom& a, const monom& b) {
@@ -45,7 +49,13 @@ void expect_operators_level(const monom& a, const monom& b) {
   EXPECT_TRUE(a <= b && a >= b && b <= a && b >= a) << a << " " << b;
 }
 
-TEST(Ordering, DegrevlexIsInForceAtStart) { EXPECT_EQ(ordering_at_start, 1); }
+TEST(Ordering, DegrevlexIsInForceAtStart) {
+  EXPECT_EQ(ordering_at_start, 1);
+  EXPECT_EQ(lt_at_start, degrevlex_lt);
+  EXPECT_EQ(le_at_start, degrevlex_le);
+  EXPECT_EQ(proj_lt_at_start, proj_degrevlex_lt);
+  EXPECT_EQ(proj_le_at_start, proj_degrevlex_le);
+}
 
 TEST(Ordering, UseDegrevlexSetsNumberAndFunctions) {
   const ring_in_force ring(101, 3, term_order::deglex);
@@ -71,6 +81,7 @@ TEST(Ordering, LexDecidesAtTheFirstSlotByTheSmallerExponent) {
   const ring_in_force ring;
   expect_below(lex_lt, lex_le, power_product({0, 9, 9}), power_product({1, 0, 0}));
   expect_below(lex_lt, lex_le, power_product({1, 0, 9}), power_product({1, 1, 0}));
+  expect_below(lex_lt, lex_le, power_product({1, 1, 0}), power_product({1, 1, 1}));
   expect_below(lex_lt, lex_le, power_product({-1, 0, 0}), power_product({0, 0, 0}));
   expect_level(lex_lt, lex_le, power_product({1, 2, 3}), power_product({1, 2, 3}));
 }
@@ -79,6 +90,7 @@ TEST(Ordering, RevlexDecidesAtTheLastSlotByTheLargerExponent) {
   const ring_in_force ring;
   expect_below(revlex_lt, revlex_le, power_product({9, 9, 1}), power_product({0, 0, 0}));
   expect_below(revlex_lt, revlex_le, power_product({9, 2, 1}), power_product({0, 1, 1}));
+  expect_below(revlex_lt, revlex_le, power_product({2, 1, 1}), power_product({1, 1, 1}));
   expect_below(revlex_lt, revlex_le, power_product({0, 0, 0}), power_product({0, 0, -1}));
   expect_level(revlex_lt, revlex_le, power_product({1, 2, 3}), power_product({1, 2, 3}));
 }
@@ -171,6 +183,23 @@ TEST(Ordering, OperatorsGoThroughThePointers) {
   expect_operators_below(power_product({0, 9, 0}), power_product({1, 0, 0}));
   expect_operators_below(projective({0, 9, 0, 0}), projective({1, 0, 0, 0}));
   expect_operators_below(projective({1, 0, 1, 0}), projective({0, 0, 0, 0}));
+  expect_operators_below(power_product({0, 0, 0}), power_product({1, 0, 1}));
+  expect_operators_below(power_product({0, 0, 0}), projective({1, 0, 1, 0}));
+  expect_operators_below(projective({0, 0, 0, 0}), power_product({1, 0, 1}));
+}
+
+TEST(Ordering, OperatorsDoNotTakeTheOrderForTotal) {
+  const ring_in_force ring;
+  monom_ordering_lt = proj_monom_ordering_lt = Zn_order_lt;
+  monom_ordering_le = proj_monom_ordering_le = Zn_order_le;
+  const monom x = power_product({1, 0, 0});
+  const monom y = power_product({0, 1, 0});
+  EXPECT_FALSE(x < y || x > y || x <= y || x >= y);
+  const monom xt = projective({1, 0, 0, 1});
+  const monom yy = projective({0, 2, 0, 0});
+  EXPECT_FALSE(xt < yy || xt > yy || xt <= yy || xt >= yy);
+  expect_operators_below(x, power_product({1, 1, 0}));
+  expect_operators_level(x, x);
 }
 
 TEST(Ordering, DivisibilityIsComponentwise) {
@@ -191,6 +220,8 @@ TEST(Ordering, DivisibilityLooksAtTheSlotsOfTheFirstMonomial) {
   EXPECT_TRUE(Zn_order_lt(projective({1, 0, 0, 0}), projective({1, 0, 0, 1})));
   EXPECT_FALSE(Zn_order_lt(power_product({1, 0, 0}), projective({1, 0, 0, 1})));
   EXPECT_TRUE(Zn_order_le(power_product({1, 0, 0}), projective({1, 0, 0, 1})));
+  EXPECT_FALSE(Zn_order_lt(projective({1, 0, 0, 1}), power_product({2, 0, 0})));
+  EXPECT_FALSE(Zn_order_le(projective({1, 0, 0, 1}), power_product({1, 0, 0})));
 }
 
 }  // namespace
