@@ -77,6 +77,43 @@ TEST(MatrixProperty, MinorIsTheExpandedDeterminant) {
   }
 }
 
+// -1 for an odd permutation.
+int sign_of(order list) {
+  int sign = 1;
+  for (int i = 0; i < static_cast<int>(list.size()); ++i) {
+    while (at(list, i) != i) {
+      std::swap(at(list, i), at(list, at(list, i)));
+      sign = -sign;
+    }
+  }
+  return sign;
+}
+
+// Products of triangular matrices with exchanged rows, where the determinant is known.
+TEST(MatrixProperty, MinorOfALargeMatrixIsTheSignedProductOfThePivots) {
+  std::mt19937 random(19);
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    for (const int n : {15, 16, 17, 33, 70}) {
+      const order rr = random_order(random, n);
+      Fp8 expected(sign_of(rr) == 1 ? 1 : p - 1);
+      matrix upper = random_matrix(random, n, n, 3);
+      for (int i = 0; i < n; ++i) {
+        upper[i][i] = Fp8(1 + below(random, p - 1));
+        expected *= upper[i][i];
+      }
+      matrix m(n, n);
+      for (int i = 0; i < n; ++i) {
+        for (int k = 0; k <= i; ++k) {
+          const Fp8 factor(k == i ? 1 : below(random, p));
+          for (int j = k; j < n; ++j) m[i][j] += factor * upper[k][j];
+        }
+      }
+      ASSERT_EQ(m.minor(identity_order(n), rr), expected) << "p = " << p << ", n = " << n;
+    }
+  }
+}
+
 // Rank by textbook elimination on a table of ints.
 int plain_rank(const matrix& m) {
   std::vector<order> rows;
@@ -209,20 +246,38 @@ void for_random_systems(std::initializer_list<int> primes, Check check) {
   }
 }
 
+void expect_plain_elimination(const matrix& m, const order& c, const order& r) {
+  matrix expected = m;
+  order expected_c = c;
+  order expected_r = r;
+  const int d = plain_solver(expected, expected_c, expected_r).run();
+  matrix found = m;
+  order found_c = c;
+  order found_r = r;
+  ASSERT_EQ(found.solve(found_c, found_r), d) << m;
+  ASSERT_EQ(found_c, expected_c) << m;
+  ASSERT_EQ(found_r, expected_r) << m;
+  ASSERT_EQ(found, expected) << m;
+}
+
 TEST(MatrixProperty, SolveLeavesOrdersAndEntriesOfTheEliminationEntryByEntry) {
-  for_random_systems({2, 3, 101, 251}, [](const matrix& m, const order& c, const order& r) {
-    matrix expected = m;
-    order expected_c = c;
-    order expected_r = r;
-    const int d = plain_solver(expected, expected_c, expected_r).run();
-    matrix found = m;
-    order found_c = c;
-    order found_r = r;
-    ASSERT_EQ(found.solve(found_c, found_r), d) << m;
-    ASSERT_EQ(found_c, expected_c) << m;
-    ASSERT_EQ(found_r, expected_r) << m;
-    ASSERT_EQ(found, expected) << m;
-  });
+  for_random_systems({2, 3, 101, 251}, expect_plain_elimination);
+}
+
+// Rows longer than the words of any processor.
+TEST(MatrixProperty, SolveOfLargeSystemsIsTheEliminationEntryByEntry) {
+  std::mt19937 random(20);
+  for (const int p : {2, 3, 101, 251}) {
+    const ring_in_force ring(p);
+    for (int round = 0; round < 40; ++round) {
+      const int cols = 60 + below(random, 100);
+      const int rows = 10 + below(random, 60);
+      matrix m = random_matrix(random, cols, rows, round % 10);
+      for (int i = 0; i < 5 * (round % 5); ++i) make_dependent(random, m);
+      expect_plain_elimination(m, identity_order(cols), random_order(random, rows));
+      expect_plain_elimination(m, random_order(random, cols), identity_order(rows));
+    }
+  }
 }
 
 TEST(MatrixProperty, SolveCountsTheUnknownsBeyondTheRank) {

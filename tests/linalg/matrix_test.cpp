@@ -241,10 +241,25 @@ TEST(Matrix, PrintsTheOddBlankToTheLeft) {
             "[  10 ]\n");
 }
 
+TEST(Matrix, EveryColumnHasItsOwnWidthAlsoInBlankLines) {
+  const ring_in_force ring;
+  EXPECT_EQ(text_of(matrix_of({{1, 51, 100}, {2, 3, 4}})),
+            "[ 1  -50  -1 ]\n"
+            "[            ]\n"
+            "[ 2   3    4 ]\n");
+}
+
 TEST(Matrix, PrintsNoBlankLineAfterTheLastRow) {
   const ring_in_force ring;
   EXPECT_EQ(text_of(matrix_of({{0, 100, 3}})), "[ 0  -1  3 ]\n");
   EXPECT_EQ(text_of(matrix(2, 0)), "");
+}
+
+TEST(Matrix, PrintsEmptyBracketsWithoutColumns) {
+  EXPECT_EQ(text_of(matrix(0, 2)),
+            "[  ]\n"
+            "[  ]\n"
+            "[  ]\n");
 }
 
 TEST(Matrix, ReadsRowByRow) {
