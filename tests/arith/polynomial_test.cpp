@@ -167,6 +167,15 @@ TEST(Polynomial, SumsOfProjectivePolynomialsCompareAffinePartsOnly) {
   EXPECT_EQ(text_of(sum_of({{2, X()}}) - sum_of({{3, projective({1, 0, 0, 5})}})), "- X");
 }
 
+TEST(Polynomial, SumsTakeOverProjectiveTermsAsTheyAre) {
+  const ring_in_force ring;
+  const polynomial f = sum_of({{3, projective({1, 0, 0, 5})}});
+  EXPECT_EQ(text_of(polynomial(0) + f), "3XT^5");
+  EXPECT_EQ(text_of(polynomial(0) - f), "- 3XT^5");
+  EXPECT_EQ(text_of(sum_of({{1, projective({0, 1, 0, 1})}}) + f), "3XT^5 + YT");
+  EXPECT_EQ(text_of(f - sum_of({{1, projective({0, 1, 0, 1})}})), "3XT^5 - YT");
+}
+
 TEST(Polynomial, OperatorsLeaveTheirOperands) {
   const ring_in_force ring;
   const polynomial f = sum_of({{2, X()}, {3, Y()}});
@@ -300,11 +309,12 @@ TEST(Polynomial, HomReplacesTheHomogenisingExponent) {
   EXPECT_EQ(text_of(h), "X^2 + YT");
 }
 
-TEST(Polynomial, HomOfZeroIsZero) {
+TEST(Polynomial, HomOfZeroIsAProjectiveZero) {
   const ring_in_force ring;
   polynomial h(X());
   hom(h, polynomial(0));
   expect_zero(h);
+  EXPECT_EQ(h.term(0).dim(), 4);
 }
 
 }  // namespace
