@@ -88,7 +88,7 @@ polynomial Lf(const polynomial& f);
 void hom(polynomial& h, const polynomial& f);
 
 // The screen form: X^2 - 3XY + 1. Starts at the column `counter`, advances it, and breaks the line
-// between two terms where the next one would pass LL - 1.
+// before a term that would bring it to LL - 1 or beyond, but never before the first one.
 std::ostream& operator<<(std::ostream& out, const polynomial& f);
 
 }  // namespace zep
