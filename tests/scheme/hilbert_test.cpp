@@ -5,6 +5,7 @@
 #include "scheme/bu_mo.h"
 #include "scheme/separators.h"
 #include "tests/scheme/point_sets.h"
+#include "tests/scheme/special_sets.h"
 
 namespace zep {
 namespace {
@@ -115,6 +116,64 @@ TEST(Hilbert, AgreesWithRanksOfEvaluationMatrices) {
       }
       EXPECT_EQ(X.delta, difference_function(X, X.sigma + 1));
     }
+  }
+}
+
+// Forms of degree d are as many as monomials of degree up to d in the affine variables; one of them
+// vanishes when they are more than the conditions.
+int plain_alpha(const std::vector<coordinates>& points) {
+  const std::vector<int> conditions = plain_facts(points).hilbert;
+  int forms = 0;
+  for (int d = 0;; ++d) {
+    forms += static_cast<int>(monomials_of_degree(d).size());
+    if (forms > (at(d) < conditions.size() ? conditions[at(d)] : conditions.back())) return d;
+  }
+}
+
+TEST(HilbertProperty, AlphaIsTheLeastDegreeOfAFormThatVanishes) {
+  std::set<int> seen;
+  for_each_set([&](const std::vector<coordinates>& points) {
+    const scheme X = computed(points);
+    ASSERT_EQ(X.alpha, plain_alpha(points));
+    seen.insert(X.alpha);
+  });
+  for (const int alpha : {1, 2, 3, 6}) EXPECT_TRUE(seen.contains(alpha)) << alpha;
+}
+
+TEST(Hilbert, SymmetryIsAskedOfAllDegreesUpToSigma) {
+  const ring_in_force ring(101, 2);
+  for (const int s : {1, 2, 3, 8, 9}) {
+    const scheme X = computed(points_on_curve(1, s));
+    ASSERT_EQ(X.is_ar_Go, 1);
+    for (int d = 0; d < s; ++d) {
+      scheme Y = X;
+      ++Y.hilb_fct[at(d)];
+      hilbert2(Y);
+      EXPECT_EQ(Y.is_CB, 1);
+      // A single point has H(0) + H(-1) = 1.
+      EXPECT_EQ(Y.is_ar_Go, d <= std::max(X.sigma, 0) ? 0 : 1) << "H(" << d << ") of " << s;
+    }
+  }
+}
+
+TEST(Hilbert, WithCayleyBacharachReplacesTheGorensteinVerdict) {
+  const ring_in_force ring(101, 2);
+  scheme X = computed({{0, 0}, {1, 0}, {0, 1}});
+  X.is_ar_Go = 1;
+  hilbert2(X);
+  EXPECT_EQ(X.is_CB, 1);
+  EXPECT_EQ(X.is_ar_Go, 0);
+}
+
+TEST(Hilbert, WithoutCayleyBacharachLeavesTheGorensteinVerdictAlone) {
+  const ring_in_force ring(101, 2);
+  scheme X = computed({{0, 0}, {1, 0}, {2, 0}, {0, 1}});
+  for (const int before : {0, 1}) {
+    X.is_CB = 1;
+    X.is_ar_Go = before;
+    hilbert2(X);
+    EXPECT_EQ(X.is_CB, 0);
+    EXPECT_EQ(X.is_ar_Go, before);
   }
 }
 
