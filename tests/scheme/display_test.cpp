@@ -9,6 +9,7 @@
 #include "scheme/min_Ix.h"
 #include "scheme/separators.h"
 #include "scheme/socle.h"
+#include "tests/scheme/computing.h"
 #include "tests/scheme/everything.h"
 #include "tests/scheme/point_sets.h"
 #include "tests/scheme/shown.h"
@@ -36,6 +37,47 @@ TEST(Invariants, OfOnePoint) {
   EXPECT_EQ(shown(sigma_X, {{3, 4}}), "sigma = -1\n" + line);
   EXPECT_EQ(shown(hilb_fct, {{3, 4}}), "H(n) = 1 \n" + line);
   EXPECT_EQ(shown(delta_fct, {{3, 4}}), "delta H(n) = 1 \n" + line);
+}
+
+TEST(Invariants, GoUpToTheDegreeFromWhichTheHilbertFunctionIsConstant) {
+  const ring_in_force ring(101, 2);
+  const std::vector<coordinates> points = {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {4, 0}, {0, 1}, {1, 1}};
+  EXPECT_EQ(shown(hilb_fct, points), "H(n) = 1 3 5 6 7 \n" + line);
+  EXPECT_EQ(shown(delta_fct, points), "delta H(n) = 1 2 2 1 1 \n" + line);
+  EXPECT_EQ(shown(order_ideal, points), "order ideal of X : \n1, Y, X, XY, X^2, X^3, X^4\n" + line);
+}
+
+// From the tenth element on the label is wider.
+TEST(Invariants, BreakLongBasisElementsBehindTheWidthOfTheLabel) {
+  std::mt19937 random(4);
+  line_ends seen;
+  for (int round = 0; round < 40; ++round) {
+    const ring_in_force ring(101, 3);
+    const std::string text = shown(groebner, random_points(20 + round % 10, random));
+    EXPECT_NE(text.find("\ng10 = "), std::string::npos);
+    EXPECT_TRUE(breaks_where_it_must(text, seen)) << text;
+  }
+  EXPECT_GT(seen.full, 0);
+  EXPECT_GT(seen.tight, 0);
+}
+
+// What their computations write comes first: a Line from Buchberger-Moeller, one from the
+// separators.
+TEST(Invariants, ArePrintedBehindWhatTheyMake) {
+  const ring_in_force ring(101, 2);
+  const auto expect = [](const std::string& before, display show) {
+    scheme X = make_set(triangle);
+    verbose = 0;
+    const std::string screen = on_screen([&](std::ostream& out) { show(out, X); });
+    verbose = 1;
+    EXPECT_EQ(screen, before + shown(show, triangle));
+  };
+  for (const display show :
+       {alpha_X, sigma_X, delta_X, hilb_fct, delta_fct, order_ideal, groebner, is_ar_Go}) {
+    expect(line, show);
+  }
+  expect(line + line, is_CB);
+  expect(line + line, disp_beta_matrix);
 }
 
 TEST(Invariants, OfNoPointsAreHeadingsWithNothingAndZeros) {
