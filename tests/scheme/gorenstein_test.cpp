@@ -32,7 +32,10 @@ TEST(Gorenstein, IsAnsweredFromTheSeparators) {
   EXPECT_EQ(shown(is_ar_Go, X), no);
   scheme Y = with_separators(square);
   EXPECT_EQ(shown(is_ar_Go, Y), yes);
-  EXPECT_FALSE(X.socle.has_value() || Y.socle.has_value());
+  // Without the Cayley-Bacharach property.
+  scheme Z = with_separators({{0, 0}, {1, 0}, {2, 0}, {0, 1}});
+  EXPECT_EQ(shown(is_ar_Go, Z), no);
+  EXPECT_FALSE(X.socle.has_value() || Y.socle.has_value() || Z.socle.has_value());
 }
 
 TEST(Gorenstein, IsAnsweredFromTheSocleWithoutSeparators) {
@@ -42,6 +45,18 @@ TEST(Gorenstein, IsAnsweredFromTheSocleWithoutSeparators) {
   EXPECT_EQ(X.sep, 0);
   EXPECT_TRUE(X.socle.has_value());
   EXPECT_EQ(X.is_ar_Go, 1);
+}
+
+TEST(Gorenstein, IsAnsweredFromTheSocleThatIsThere) {
+  const ring_in_force ring(101, 2);
+  for (const auto& [points, verdict] : {std::pair(square, yes), std::pair(triangle, no)}) {
+    scheme X = make_set(points);
+    shown(typ, X);
+    // Twice: the first answer changes what is known.
+    EXPECT_EQ(shown(is_ar_Go, X) + shown(is_ar_Go, X), verdict + verdict);
+    EXPECT_EQ(X.is_CB, verdict == yes ? 1 : 0);
+    EXPECT_EQ(X.sep, 0);
+  }
 }
 
 TEST(Gorenstein, SpeaksForCayleyBacharachWithoutSeparators) {
@@ -66,8 +81,11 @@ TEST(Gorenstein, VerdictFromTheSocleReplacesAnOldOne) {
   const ring_in_force ring(101, 2);
   scheme X = make_set(triangle);
   X.is_ar_Go = 1;
+  X.is_CB = 1;
   EXPECT_EQ(shown(is_ar_Go, X), no);
   EXPECT_EQ(X.is_ar_Go, 0);
+  // A denial does not reach so far.
+  EXPECT_EQ(X.is_CB, 1);
 }
 
 TEST(Gorenstein, ReportsTheOrderIdealsProgressButNoSeparators) {
