@@ -148,6 +148,17 @@ TEST(BetaMatrix, CountsDownTheMembersOfTopDegreeOnStandardError) {
   EXPECT_EQ(loud.out.text(), "");
 }
 
+TEST(BetaMatrix, ReportsWhatItNeedsBeforeItBegins) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
+  const silence loud;
+  beta_matrix(X);
+  EXPECT_EQ(loud.err.text(),
+            "calculating triangular sequence ...\n[3][2][1]\n"
+            "calculating biorthogonal sequence ...\n[3][2][1]\n"
+            "calculating beta matrix ...\n[2][1]\n");
+}
+
 TEST(BetaMatrix, LeavesStandardErrorAloneWhenQuiet) {
   const ring_in_force ring(101, 2);
   scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
