@@ -135,6 +135,17 @@ TEST(BetaMatrix, OfNoPointsIsAHeadingWithoutAMatrix) {
   EXPECT_EQ(shown(disp_beta_matrix, std::vector<coordinates>()), heading + "\n" + line);
 }
 
+TEST(BetaMatrix, NamesItsBasisOnOneLineHoweverLong) {
+  const ring_in_force ring(101, 7);
+  std::mt19937 random(8);
+  scheme X = make_set(random_points(36, random));
+  const std::string text = shown(disp_beta_matrix, X);
+  ASSERT_EQ(X.delta, 28);
+  std::string names;
+  for (const int i : X.basis) names += "f" + std::to_string(i + 1) + ", ";
+  EXPECT_TRUE(text.starts_with(heading + names + "\n[ "));
+}
+
 TEST(BetaMatrix, CountsDownTheMembersOfTopDegreeOnStandardError) {
   const ring_in_force ring(101, 2);
   scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});

@@ -47,6 +47,22 @@ TEST(Invariants, GoUpToTheDegreeFromWhichTheHilbertFunctionIsConstant) {
   EXPECT_EQ(shown(order_ideal, points), "order ideal of X : \n1, Y, X, XY, X^2, X^3, X^4\n" + line);
 }
 
+TEST(Invariants, KeepListsOnOneLineHoweverLong) {
+  const ring_in_force ring(101, 2);
+  const std::vector<coordinates> points = points_on_curve(1, 100);
+  std::string values;
+  std::string differences;
+  std::string monomials = "1, X";
+  for (int n = 0; n < 100; ++n) {
+    values += std::to_string(n + 1) + " ";
+    differences += "1 ";
+    if (n > 1) monomials += ", X^" + std::to_string(n);
+  }
+  EXPECT_EQ(shown(hilb_fct, points), "H(n) = " + values + "\n" + line);
+  EXPECT_EQ(shown(delta_fct, points), "delta H(n) = " + differences + "\n" + line);
+  EXPECT_EQ(shown(order_ideal, points), "order ideal of X : \n" + monomials + "\n" + line);
+}
+
 // From the tenth element on the label is wider.
 TEST(Invariants, BreakLongBasisElementsBehindTheWidthOfTheLabel) {
   std::mt19937 random(4);
