@@ -87,14 +87,28 @@ TEST(Socle, IsMadeOnce) {
   EXPECT_EQ(loud.out.text() + loud.err.text(), "");
 }
 
-TEST(Socle, BreaksLongLinesBehindTheWidthOfTheLabel) {
+// Counts the ends of broken lines in the socle of random points.
+line_ends ends_of_lines(int n, int points) {
+  const ring_in_force ring(101, n);
   std::mt19937 random(53);
   line_ends seen;
   for (int round = 0; round < 60; ++round) {
-    const ring_in_force ring(101, 5);
-    const std::string text = shown(disp_socle, random_points(23 + round % 2, random));
+    const std::string text = shown(disp_socle, random_points(points + round % 2, random));
     EXPECT_TRUE(breaks_where_it_must(text, seen)) << text;
   }
+  return seen;
+}
+
+TEST(Socle, BreaksLongLinesBehindTheWidthOfTheLabel) {
+  const line_ends seen = ends_of_lines(5, 23);
+  EXPECT_GT(seen.full, 0);
+  EXPECT_GT(seen.tight, 0);
+}
+
+// With two more points than there are monomials of degree up to 2, fourteen elements have degree 2
+// and fifteen terms, and from the tenth on the label is wider.
+TEST(Socle, BreaksLongLinesBehindWiderLabelsToo) {
+  const line_ends seen = ends_of_lines(7, 38);
   EXPECT_GT(seen.full, 0);
   EXPECT_GT(seen.tight, 0);
 }
@@ -238,17 +252,54 @@ std::vector<plain_form> ascending(std::vector<plain_form> found) {
   return found;
 }
 
+// Expects the elements that the elimination leaves, in ascending order. Returns how many have the
+// leading monomial of the one before, so that the order in which they are found shows.
+int ties_among_expected_elements(const std::vector<coordinates>& points) {
+  const plain_artinian plain(points);
+  const std::vector<plain_form> found = forms(computed(points));
+  EXPECT_EQ(ascending(in_order_of_discovery(plain, found)), found);
+  int ties = 0;
+  for (std::size_t k = 1; k < found.size(); ++k) {
+    ties += found[k][0].first == found[k - 1][0].first ? 1 : 0;
+  }
+  return ties;
+}
+
 TEST(SocleProperty, ElementsAreThoseThatTheEliminationLeavesInAscendingOrder) {
   int ties = 0;
   for_each_set([&](const std::vector<coordinates>& points) {
-    const plain_artinian plain(points);
-    const std::vector<plain_form> found = forms(computed(points));
-    ASSERT_EQ(ascending(in_order_of_discovery(plain, found)), found);
-    for (std::size_t k = 1; k < found.size(); ++k) {
-      ties += found[k][0].first == found[k - 1][0].first ? 1 : 0;
-    }
+    ties += ties_among_expected_elements(points);
   });
   EXPECT_GT(ties, 20);
+}
+
+// Equations too many, even dependent ones, would let the elimination go on, and change the order.
+TEST(SocleProperty, EliminationHasNoEquationsForVariablesOutsideO) {
+  const ring_in_force ring(101, 4);
+  std::mt19937 random(59);
+  for (int round = 0; round < 5; ++round) {
+    // In a hyperplane, which has ten monomials of degree up to 2.
+    std::vector<coordinates> points = random_points(11, random);
+    for (coordinates& point : points) point[3] = (point[0] + 2 * point[1] + 3 * point[2]) % 101;
+    EXPECT_EQ(plain_artinian(points).members(1).size(), 3);
+    EXPECT_GT(ties_among_expected_elements(points), 0);
+  }
+}
+
+// Unknowns too many would let it come to its end sooner.
+TEST(SocleProperty, EliminationHasNoUnknownsBeyondTheLastCandidate) {
+  const ring_in_force ring(101, 4);
+  std::mt19937 random(61);
+  for (int round = 0; round < 5; ++round) {
+    // X^2T is the only member of degree 3: the last coordinate is 0 at the first ten points, the
+    // next three are a difference quotient in X, and the others fill up the smaller degrees.
+    std::vector<coordinates> points = random_points(10, random);
+    for (coordinates& point : points) point[3] = 0;
+    for (int x = 0; x < 3; ++x) points.push_back({x, 0, 0, 1});
+    for (const coordinates& other : random_points(3, random)) points.push_back(other);
+    EXPECT_EQ(plain_artinian(points).members(3), (std::vector<exponents>{{2, 0, 0, 1}}));
+    EXPECT_GT(ties_among_expected_elements(points), 0);
+  }
 }
 
 }  // namespace
