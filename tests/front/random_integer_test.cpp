@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 namespace zep {
 namespace {
@@ -17,6 +18,32 @@ TEST(ACG, DrawsTheSequenceOfEveryRelease) {
   }
   for (int i = 11; i < 1000; ++i) generator.draw();
   EXPECT_EQ(generator.draw(), 1536986174U);
+}
+
+TEST(ACG, ChoosesTheBytesOfEveryDrawAsInEveryRelease) {
+  // Every choice of bytes occurs among so many draws.
+  ACG generator(1234);
+  std::uint32_t sum = 0;
+  for (int i = 0; i < 1000; ++i) sum = 31U * sum + generator.draw();
+  EXPECT_EQ(sum, 1883218987U);
+}
+
+TEST(ACG, BeginsWithTheSameDrawForASeedInEveryRelease) {
+  std::uint32_t seed = 0;
+  for (const std::uint32_t expected :
+       {1525072166U, 3611118411U, 1783059422U, 3358714928U, 4048166713U, 3777749291U, 3793256970U,
+        3068297914U, 3581959093U, 1497534028U, 684042034U,  1148255771U, 3628932754U, 2291488187U,
+        2024499719U, 3097130481U, 2207539066U, 1768157316U, 2004337082U, 1817240508U, 4068670001U,
+        717053510U,  453407761U,  1806137443U, 975537014U,  1831973187U, 3952563524U, 1272926957U,
+        1949865818U, 2999879328U, 3899421674U, 111507258U}) {
+    EXPECT_EQ(ACG(seed).draw(), expected) << seed;
+    ++seed;
+  }
+  for (const auto& [larger, expected] :
+       {std::pair(32U, 945542396U), std::pair(63U, 190645833U), std::pair(64U, 2527756322U),
+        std::pair(1235U, 1728651105U), std::pair(4294967295U, 3480843118U)}) {
+    EXPECT_EQ(ACG(larger).draw(), expected) << larger;
+  }
 }
 
 TEST(ACG, OtherSeedsDrawOtherSequences) {
