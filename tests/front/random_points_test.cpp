@@ -118,6 +118,41 @@ TEST(Random, RefusesMorePointsThanThereAre) {
   EXPECT_EQ(type_in("random A 2147483647\n").out, refusal + "% ");
 }
 
+TEST(Random, CountsThePointsThatThereAreInHighDimensionsToo) {
+  // There are 128^10 = 2^70 points, and 100^26 of them.
+  EXPECT_EQ(type_in("quiet\nchar 131\nrange 127\ndim 10\nrandom A 2\nlist\n").out,
+            type_in("quiet\nchar 131\nrange 127\ndim 10\n").out + line + "% scheme A\n% ");
+  EXPECT_EQ(type_in("quiet\nrange 99\ndim 26\nrandom2 A 28\nlist\n").out,
+            type_in("quiet\nrange 99\ndim 26\n").out + line + "% scheme A\n% ");
+}
+
+TEST(Random, DrawsFromTheLowerBorderToTheUpperOne) {
+  std::istringstream keyboard("A 8 B 9");
+  session z(keyboard);
+  set_defaults(z);
+  z.range1 = 7;
+  z.range2 = 8;
+  const captured out(std::cout);
+  random1(z);
+  const matrix& P = z.var.object(z.var.find("A")).P;
+  for (int i = 0; i < P.rows(); ++i) {
+    for (const Fp8 x : P.row(i)) EXPECT_TRUE(x == 7 || x == 8);
+  }
+  random1(z);
+  EXPECT_EQ(z.var.find("B"), unknown_identifier);
+  EXPECT_EQ(out.text(), line + "not enough points in the current range !\n");
+}
+
+TEST(Random, DrawsNothingForASetThatIsRefused) {
+  for (const std::string refused : {"A 0", "A x", "a-b 2", "B 2"}) {
+    EXPECT_EQ(points_of("random B 1\nrandom " + refused + "\nrandom A 1\n", 1, "<1:16:9:37>"),
+              "as said")
+        << refused;
+  }
+  EXPECT_EQ(points_of("range 49\nrandom B 125001\nrange 50\nrandom A 1\n", 1, "<1:32:36:18>"),
+            "as said");
+}
+
 TEST(Random, ReportsMalformedNumbersAndTheEndOfTheInput) {
   for (const std::string random : {"random", "random2"}) {
     EXPECT_EQ(type_in(random + " A x\nlist\n").out, "% malformed number\nunexpected 'x'\n% % ");
