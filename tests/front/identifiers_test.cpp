@@ -48,6 +48,27 @@ TEST(Identifiers, ConsistOfLettersAndDigits) {
   EXPECT_EQ(type_in("random 7 1\nlist\n").out, sets_made(1) + "% scheme 7\n% ");
 }
 
+TEST(Identifiers, TakeEveryLetterAndDigitAndNoneOfTheirNeighbours) {
+  for (const std::string name :
+       {"0123456789", "ABCDEFGHIJKL", "MNOPQRSTUVWX", "YZabcdefghij", "klmnopqrstuv", "wxyz"}) {
+    EXPECT_EQ(type_in("random " + name + " 1\nlist\n").out,
+              sets_made(1) + "% scheme " + name + "\n% ");
+  }
+  for (const std::string name : {"/", ":", "@", "[", "`", "{", "AB/", "A:B"}) {
+    EXPECT_EQ(type_in("random " + name + " 1\n").out,
+              "% indentifiers have to consist only of alnums\nunexpected '1'\n% ");
+  }
+}
+
+TEST(Identifiers, AreRefusedForTheirNameBeforeTheirNumber) {
+  const std::string full = make_sets(50);
+  const std::string made = sets_made(50);
+  EXPECT_EQ(type_in(full + "random S7 1\n").out,
+            made + "% indentifier already exists\nunexpected '1'\n% ");
+  EXPECT_EQ(type_in(full + "random S-7 1\n").out,
+            made + "% indentifiers have to consist only of alnums\nunexpected '1'\n% ");
+}
+
 TEST(Identifiers, AreCutToTwelveCharacters) {
   EXPECT_EQ(type_in("random abcdefghijklmn 1\nlist\n").out,
             "% malformed number\nunexpected 'mn 1'\n% % ");
