@@ -95,6 +95,49 @@ TEST(ResultFiles, WhatExistsPrintsLineInPlaceOfTheComputation) {
   EXPECT_EQ(printed_after(triangle + "omega A\n", presentation), ask + line + "% ");
 }
 
+TEST(ResultFiles, AResultIsMissingThoughOthersThatNeedMoreExist) {
+  const file_name name;
+  const std::string to_file = " A " + name.text() + "\n";
+  const std::string with_everything_but_separators = triangle + "bumo A\nmin A\nsocle A\nomega A\n";
+  EXPECT_EQ(printed_after(with_everything_but_separators, "putsep" + to_file + "is_cb A\n"),
+            ask + line + "% scheme has Cayley-Bacharach property\n" + line + "% ");
+  // The separators are there from then on, and `display` shows what they decide.
+  const std::string shown =
+      printed_after(with_everything_but_separators + "putsep" + to_file, "A\n");
+  EXPECT_NE(shown.find("scheme has Cayley-Bacharach property\n"), std::string::npos);
+
+  EXPECT_EQ(printed_after(triangle + "sep A\nomega A\n", "putbeta" + to_file), ask + "% ");
+  EXPECT_EQ(name.contents(), "2\n3\n1\n0\n0\n1\n-1\n-1\n");
+  EXPECT_EQ(printed_after(triangle + "betamat A\nomega A\n", "putbeta" + to_file),
+            ask + line + "% ");
+  EXPECT_EQ(printed_after(triangle + "betamat A\n", "putmin" + to_file), ask + "% ");
+  EXPECT_EQ(printed_after(triangle + "min A\nsocle A\n", "putomega" + to_file), ask + "% ");
+}
+
+TEST(ResultFiles, TheBasisExistsFromItsComputationOn) {
+  const file_name name;
+  const std::string put = "putgbasis A " + name.text() + "\n";
+  for (const std::string command : {"bumo", "gbasis", "sep", "alpha", "min"}) {
+    const std::string first = triangle + command + " A\n";
+    EXPECT_EQ(printed_after(first, put), ask + line + "% ") << command;
+    // No progress is reported a second time.
+    EXPECT_EQ(type_in(first + put).err, type_in(first).err) << command;
+  }
+}
+
+TEST(ResultFiles, PointsAndRecordComputeNothing) {
+  const file_name name;
+  const std::string points = "scheme consists of 3 points:\n<1:0:0><1:1:0><1:0:1>\n" + line;
+  for (const std::string put : {"putscheme", "write"}) {
+    const std::string typed = put + " A " + name.text() + "\n";
+    EXPECT_EQ(printed_after(triangle, typed), ask + line + "% ");
+    if (put == "write") {
+      EXPECT_EQ(name.contents(), points);
+    }
+    EXPECT_EQ(printed_after(triangle + typed, "A\n"), "% scheme A:\n" + points + "% ");
+  }
+}
+
 TEST(ResultFiles, AFileThatExistsIsOverwritten) {
   const file_name name;
   std::ofstream(name.text()) << std::string(10000, 'x');
@@ -156,8 +199,10 @@ TEST(ResultFiles, OfNoPointsHaveEmptyLists) {
     type_in(none + put + " A " + name.text() + "\n");
     EXPECT_EQ(name.contents(), "1\n0\n") << put;
   }
-  type_in(none + "putbeta A " + name.text() + "\n");
-  EXPECT_EQ(name.contents(), "0\n0\n");
+  for (const std::string put : {"putbeta", "putomega"}) {
+    type_in(none + put + " A " + name.text() + "\n");
+    EXPECT_EQ(name.contents(), "0\n0\n") << put;
+  }
 }
 
 TEST(NUniformityCommand, ReadsItsNumberFirst) {
