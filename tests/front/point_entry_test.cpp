@@ -128,6 +128,12 @@ TEST(Scheme, ReadsAPointFile) {
                 "% ");
 }
 
+TEST(Scheme, IgnoresWhatStandsDirectlyBehindTheLastNumber) {
+  const transcript t = read_file("4 1 1 2 3 4x/0");
+  EXPECT_EQ(t.out, "% enter filename : " + line + "% scheme A\n% ");
+  EXPECT_EQ(t.err, "");
+}
+
 TEST(Scheme, DropsNoCharacterBehindTheFirstCoordinate) {
   EXPECT_EQ(read_file("4 1\n1:2 3 4\n").out, malformed_file);
 }
