@@ -76,6 +76,15 @@ large_one() { printf 'random A 3000\nbumo A\n'; }
   (ulimit -v 45000 && exec "$zep") >/dev/null 2>&1 || complain 'no room behind del_all'
 try 'large and small sets together' 45000 < <(echo quiet; small_ones; large_one)
 
+# Points that are only announced need no memory either.
+cd "$work"
+printf '4 2147483647\n1 2 3 4\n' >announced
+said=$(printf 'scheme A announced\nget A 2147483647\n1 2 3 4\n' |
+  (ulimit -v 60000 && exec "$zep") 2>&1) || complain 'announced points end the program'
+for message in 'malformed point file' 'unexpected end of input'; do
+  [[ "$said" == *"$message"* ]] || complain "announced points: no '$message'"
+done
+
 # What is only reported or dropped needs no memory.
 if ! (printf 'list '; pad 40000000 a; printf '\n') | (ulimit -v 30000 && exec "$zep") >/dev/null; then
   complain 'a long line was not reported'
