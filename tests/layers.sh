@@ -1,20 +1,18 @@
 #!/usr/bin/env bash
-# Fails when a file includes one of a layer above its own, or two headers include each other.
+# Fails when a file includes one of a layer above its own, rooms depend on each other in a circle, or a
+# file has more than 400 lines.
 #   layers.sh TOP
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 cd "$1"
 layers=(arith linalg scheme front)
-failed=0
 
 allowed=()
 for layer in "${layers[@]}"; do
   allowed+=("$layer")
   pattern=$(IFS='|'; echo "${allowed[*]}")
   found=$(grep -nE '^#include "' "$layer"/*.h "$layer"/*.cpp | grep -vE "#include \"($pattern)/" || true)
-  if [ -n "$found" ]; then
-    printf '%s reaches out of its layers:\n%s\n' "$layer" "$found"
-    failed=1
-  fi
+  [ -z "$found" ] || complain "$layer reaches out of its layers:"$'\n'"$found"
 done
 
 # A room is a header with its source; tsort complains when rooms depend on each other in a circle.
@@ -27,8 +25,9 @@ cycle=$(
     done
   done | tsort 2>&1 >/dev/null
 ) || true
-if [ -n "$cycle" ]; then
-  printf 'rooms depend on each other in a circle:\n%s\n' "$cycle"
-  failed=1
-fi
+[ -z "$cycle" ] || complain 'rooms depend on each other in a circle:'$'\n'"$cycle"
+
+long=$(find "${layers[@]}" bench tests tools -type f \( -name '*.cpp' -o -name '*.h' -o -name '*.sh' \) \
+  -exec awk 'END { if (FNR > 400) print FILENAME ": " FNR }' {} \;)
+[ -z "$long" ] || complain 'files of more than 400 lines:'$'\n'"$long"
 exit "$failed"

@@ -117,11 +117,13 @@ TEST(ResultFiles, AResultIsMissingThoughOthersThatNeedMoreExist) {
 TEST(ResultFiles, TheBasisExistsFromItsComputationOn) {
   const file_name name;
   const std::string put = "putgbasis A " + name.text() + "\n";
-  for (const std::string command : {"bumo", "gbasis", "sep", "alpha", "min"}) {
-    const std::string first = triangle + command + " A\n";
-    EXPECT_EQ(printed_after(first, put), ask + line + "% ") << command;
-    // No progress is reported a second time.
-    EXPECT_EQ(type_in(first + put).err, type_in(first).err) << command;
+  for (const std::string& points : {triangle, std::string("get A 0\n")}) {
+    for (const std::string command : {"bumo", "gbasis", "sep", "alpha", "min"}) {
+      const std::string first = points + command + " A\n";
+      EXPECT_EQ(printed_after(first, put), ask + line + "% ") << command;
+      // No progress is reported a second time.
+      EXPECT_EQ(type_in(first + put).err, type_in(first).err) << command;
+    }
   }
 }
 

@@ -126,6 +126,32 @@ void for_each_set(Check check) {
   }
 }
 
+// Random sets of up to 40 points, in P^2 to P^5 over four fields.
+struct random_sets {
+  std::mt19937::result_type seed;
+  int rounds;
+  int most_points_of_P5 = 40;
+};
+
+// Calls check(points) for these, with both orders by turns.
+template <class Check>
+void for_each_random_set(const random_sets& sets, Check check) {
+  std::mt19937 random(sets.seed);
+  for (int round = 0; round < sets.rounds; ++round) {
+    for (const int p : {2, 3, 101, 251}) {
+      for (int n = 2; n <= 5; ++n) {
+        const ring_in_force ring(p, n, round % 2 == 0 ? term_order::deglex : term_order::degrevlex);
+        const std::vector<coordinates> points =
+            random_points(1 + below(random, n == 5 ? sets.most_points_of_P5 : 40), random);
+        SCOPED_TRACE(std::to_string(points.size()) + " points of P^" + std::to_string(n) +
+                     " over F_" + std::to_string(p));
+        check(points);
+        if (::testing::Test::HasFailure()) return;
+      }
+    }
+  }
+}
+
 // Calls use(points) for sets without meaning: with repeated points, or over rings Z/m that are no
 // fields.
 template <class Use>
