@@ -11,8 +11,8 @@
 #include "arith/output.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
+#include "scheme/Can_Lf.h"
 #include "scheme/consistency.h"
-#include "scheme/create_Can_Lf.h"
 
 namespace zep {
 

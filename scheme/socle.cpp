@@ -11,8 +11,8 @@
 #include "arith/interrupt.h"
 #include "arith/list.h"
 #include "arith/output.h"
+#include "scheme/Can_Lf.h"
 #include "scheme/consistency.h"
-#include "scheme/create_Can_Lf.h"
 
 namespace zep {
 

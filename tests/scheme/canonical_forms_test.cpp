@@ -7,7 +7,7 @@
 #include <optional>
 #include <span>
 
-#include "scheme/create_Can_Lf.h"
+#include "scheme/Can_Lf.h"
 #include "tests/scheme/plain_artinian.h"
 #include "tests/scheme/point_sets.h"
 #include "tests/scheme/special_sets.h"

@@ -1,4 +1,4 @@
-#include "scheme/create_Can_Lf.h"
+#include "scheme/Can_Lf.h"
 
 #include "scheme/bu_mo.h"
 
