@@ -29,7 +29,8 @@ constexpr std::size_t tile_cols = 16;
 using tile_kernel = void(std::uint8_t* const* c, const std::int16_t* a, const std::int16_t* b,
                          std::size_t pairs, lane p);
 
-// Only for processors with AVX2, and compiled for x86 only.
+// Only for processors with AVX2, or AVX-512BW, and compiled for x86 only.
 tile_kernel add_to_tile_with_avx2;
+tile_kernel add_to_tile_with_avx512;
 
 }  // namespace zep

@@ -4,7 +4,9 @@ namespace zep {
 
 std::vector<const row_kernels*> runnable_kernels() {
   std::vector<const row_kernels*> result = {&look_up_kernels, &portable_kernels};
-  if (const row_kernels* const kernels = avx2_kernels()) result.push_back(kernels);
+  for (const row_kernels* const kernels : {avx2_kernels(), avx512_kernels()}) {
+    if (kernels != nullptr) result.push_back(kernels);
+  }
   return result;
 }
 

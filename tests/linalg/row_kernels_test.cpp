@@ -18,8 +18,8 @@ TEST(RowKernels, LookUpsAndPortableLoopsRunEverywhere) {
 
 TEST(RowKernels, AllVariantsForX86AreTestedHere) {
 #if defined(__x86_64__) || defined(__i386__)
-  if (avx2_kernels() == nullptr) GTEST_SKIP() << "this processor lacks AVX2";
-  EXPECT_EQ(runnable_kernels().size(), 3U);
+  if (avx512_kernels() == nullptr) GTEST_SKIP() << "this processor lacks AVX-512BW";
+  EXPECT_EQ(runnable_kernels().size(), 4U);
 #else
   GTEST_SKIP() << "no such processor";
 #endif

@@ -15,11 +15,11 @@ namespace {
 using row = std::vector<Fp8>;
 
 // In bytes; no variant has a wider one.
-constexpr std::size_t widest_vector = 32;
+constexpr std::size_t widest_vector = 64;
 // Around all widths of vectors, and of parts of them, and several times the widest one.
-const std::size_t lengths[] = {0,  1,  2,  3,  4,  5,  7,  8,  9,   15,  16,  17,
-                               23, 31, 32, 33, 47, 63, 64, 65, 100, 127, 129, 1000};
-static_assert(4 * widest_vector <= 129);
+const std::size_t lengths[] = {0,  1,  2,  3,  4,  5,  7,   8,   9,   15,  16,  17,  23,  31,
+                               32, 33, 47, 63, 64, 65, 100, 127, 129, 300, 511, 512, 1000};
+static_assert(4 * widest_vector <= 300);
 // Offsets below it make up all alignments of a vector.
 constexpr std::size_t margin = widest_vector;
 
