@@ -46,10 +46,6 @@ void run_product(operands& x) { pointwise_product(x.d.data(), x.d.data(), x.s.da
 
 void run_dot(operands& x) { benchmark::DoNotOptimize(dot(x.d.data(), x.s.data(), x.d.size())); }
 
-// Lengths between which variants may change places, and more.
-const std::vector<std::vector<std::int64_t>> primes_and_lengths = {
-    {2, 101, 251}, {16, 64, 100, 200, 400, 1000, 4000}};
-
 using operation = void (*)(operands&);
 
 void bench(benchmark::State& state, const row_kernels* kernels, operation run) {
@@ -66,7 +62,7 @@ void bench(benchmark::State& state, const row_kernels* kernels, operation run) {
 
 void add(const std::string& name, const row_kernels* kernels, operation run) {
   benchmark::RegisterBenchmark((name + ", " + kernels->name).c_str(), bench, kernels, run)
-      ->ArgsProduct(primes_and_lengths);
+      ->ArgsProduct({{2, 101, 251}, {16, 64, 100, 200, 400, 1000, 4000}});
 }
 
 void add_all(const std::string& name, operation run) {
@@ -76,7 +72,7 @@ void add_all(const std::string& name, operation run) {
 // All the benchmarks; the plain form of axpy is there to compare the look-ups with.
 const bool added = [] {
   benchmark::RegisterBenchmark("axpy, plain", bench, &look_up_kernels, plain_axpy)
-      ->ArgsProduct(primes_and_lengths);
+      ->ArgsProduct({{2, 101, 251}, {16, 64, 100, 200, 400, 1000, 4000}});
   add_all("axpy", run_axpy);
   add_all("axpy by 1", run_addition);
   add_all("axpy by -1", run_subtraction);

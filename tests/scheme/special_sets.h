@@ -128,8 +128,8 @@ void for_each_set(Check check) {
 
 // Random sets of up to 40 points, in P^2 to P^5 over four fields.
 struct random_sets {
-  std::mt19937::result_type seed;
-  int rounds;
+  std::mt19937::result_type seed = 0;
+  int rounds = 1;
   int most_points_of_P5 = 40;
 };
 
