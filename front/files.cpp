@@ -76,7 +76,9 @@ void result_file::close() {
 }
 
 void result_file::abandon() {
-  if (open_file != nullptr) open_file->buffer_.take_back();
+  if (open_file == nullptr) return;
+  open_file->buffer_.take_back();
+  open_file = nullptr;
 }
 
 }  // namespace zep

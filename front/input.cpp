@@ -89,6 +89,7 @@ void input::copy_rest_of_line(std::ostream& out) {
 
 void input::forget() {
   in_.clear();
+  in_.sync();
   while (in_.rdbuf()->in_avail() > 0) in_.get();
 }
 

@@ -33,6 +33,10 @@ void start_editing(const completer& complete);
 // interrupt ends it. Requires interrupts to be caught.
 typed_line read_line(const std::string& prompt, const std::string& before_it);
 
+// Drops what was pasted and has not been handed over as a line. (Pasted lines are handed over one
+// by one.)
+void forget_pasted_lines();
+
 // Offers a line again when an earlier one is asked for.
 void remember_line(const std::string& line);
 

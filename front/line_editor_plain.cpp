@@ -23,6 +23,8 @@ typed_line read_line(const std::string& /*prompt*/, const std::string& /*before_
   }
 }
 
+void forget_pasted_lines() {}
+
 void remember_line(const std::string& /*line*/) {}
 
 void end_editing() {}

@@ -1,12 +1,14 @@
 #include <readline/history.h>
 #include <readline/readline.h>
 
+#include <algorithm>
 #include <csetjmp>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "front/interruption.h"
@@ -21,6 +23,8 @@ struct state {
   completer complete;
   std::string prompt;
   completions found;
+  // What has been pasted and is not in the line yet.
+  std::string pasted;
   // While a line is read.
   const held_interrupts* held = nullptr;
   // Where an interrupt leads, out of the library, whatever dialogue of its own that is in.
@@ -87,6 +91,60 @@ int next_key(std::FILE* /*terminal*/) {
   return EOF;
 }
 
+// Takes the text up to the first line end out of what has been pasted, or all of it.
+std::string next_pasted_piece() {
+  std::string& pasted = editor().pasted;
+  const std::size_t end = std::min(pasted.find('\n'), pasted.size());
+  std::string piece = pasted.substr(0, end);
+  pasted.erase(0, end);
+  return piece;
+}
+
+// Passes over a line end in what has been pasted. True if there is one.
+bool pass_pasted_line_end() {
+  std::string& pasted = editor().pasted;
+  if (pasted.empty()) return false;
+  pasted.erase(0, 1);
+  return true;
+}
+
+// Reads what is pasted up to the mark at its end. Nothing here is destroyed late when an interrupt
+// leads out. A terminal sends a carriage return for a line end.
+void read_pasted() {
+  constexpr std::string_view end_mark = "\x1b[201~";
+  std::string& pasted = editor().pasted;
+  while (!pasted.ends_with(end_mark)) {
+    const int key = ::rl_read_key();
+    if (key == EOF) return;
+    if (key == '\n' && pasted.ends_with('\r')) pasted.pop_back();
+    if (key != 0) pasted += static_cast<char>(key);
+  }
+  pasted.erase(pasted.size() - end_mark.size());
+  std::replace(pasted.begin(), pasted.end(), '\r', '\n');
+}
+
+// What is pasted is text, whatever its characters do as keys, and each of its lines is like a line
+// that is typed: it has its answer behind it. The first one goes into the line that is being
+// edited.
+int take_paste(int /*count*/, int /*key*/) {
+  read_pasted();
+  ::rl_insert_text(next_pasted_piece().c_str());
+  if (!pass_pasted_line_end()) return 0;
+  rl_redisplay_function();
+  return ::rl_newline(1, '\n');
+}
+
+// The last piece of what was pasted, without a line end, is a line to be edited.
+int begin_with_pasted_piece() {
+  ::rl_insert_text(next_pasted_piece().c_str());
+  return 0;
+}
+
+void show(const std::string& text) {
+  std::fputs(text.c_str(), rl_outstream);
+  std::fflush(rl_outstream);
+}
+
 // Puts the library in order, and the cursor behind the line that is given up.
 void give_up_line() {
   if (RL_ISSTATE(RL_STATE_ISEARCH | RL_STATE_NSEARCH)) {
@@ -95,12 +153,19 @@ void give_up_line() {
   }
   rl_point = rl_end;
   ::rl_redisplay();
-  std::fputs("^C\n", rl_outstream);
-  std::fflush(rl_outstream);
+  show("^C\n");
   ::rl_free_line_state();
   ::rl_cleanup_after_signal();
   RL_UNSETSTATE(RL_STATE_ISEARCH | RL_STATE_NSEARCH | RL_STATE_COMPLETING | RL_STATE_MULTIKEY |
                 RL_STATE_MOREINPUT | RL_STATE_NUMERICARG | RL_STATE_METANEXT);
+}
+
+// The next line of what was pasted, shown as if it was typed.
+typed_line pasted_line() {
+  const std::string text = next_pasted_piece();
+  pass_pasted_line_end();
+  show(text + "\n");
+  return {typed_line::ending::line, text};
 }
 
 struct free_memory {
@@ -117,8 +182,11 @@ void start_editing(const completer& complete) {
   rl_completer_word_break_characters = " \t";
   // An interrupt is shown behind the line, not where the cursor is.
   ::rl_variable_bind("echo-control-characters", "off");
-  // Lines that are pasted are like lines that are typed: each has its answer behind it.
-  ::rl_variable_bind("enable-bracketed-paste", "off");
+  rl_startup_hook = begin_with_pasted_piece;
+  ::rl_initialize();
+  for (const Keymap keys : {emacs_standard_keymap, vi_insertion_keymap}) {
+    ::rl_bind_keyseq_in_map("\\e[200~", take_paste, keys);
+  }
   struct sigaction action {};
   action.sa_handler = note_continuation;
   action.sa_flags = SA_RESTART;
@@ -130,15 +198,23 @@ typed_line read_line(const std::string& prompt, const std::string& before_it) {
   const held_interrupts held;
   editor().held = &held;
   editor().prompt = prompt;
+  if (editor().pasted.find('\n') != std::string::npos) return pasted_line();
   rl_already_prompted = 1;
   if (setjmp(editor().interrupted) != 0) {
     give_up_line();
+    forget_pasted_lines();
     return {typed_line::ending::interrupt, {}};
   }
   const std::unique_ptr<char, free_memory> line(::readline(before_it.c_str()));
-  if (line == nullptr) return {typed_line::ending::end_of_input, {}};
+  if (line == nullptr) {
+    // Where what is pasted is marked, the library ends the line.
+    if (std::string_view(::rl_variable_value("enable-bracketed-paste")) != "on") show("\n");
+    return {typed_line::ending::end_of_input, {}};
+  }
   return {typed_line::ending::line, std::string(line.get())};
 }
+
+void forget_pasted_lines() { editor().pasted.clear(); }
 
 void remember_line(const std::string& line) { ::add_history(line.c_str()); }
 

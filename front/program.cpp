@@ -7,6 +7,7 @@
 #include "arith/output.h"
 #include "front/parser.h"
 #include "front/prompt.h"
+#include "front/screen_line.h"
 #include "front/session_source.h"
 #include "front/settings.h"
 #include "front/transcript.h"
@@ -47,9 +48,10 @@ std::ostream* repetition(const options& chosen, const session_source& opened, st
   return chosen.log ? &log : nullptr;
 }
 
-int run_sessions(session& z, std::istream& in, const options& chosen, std::ostream& log) {
+int run_sessions(session& z, std::istream& in, const options& chosen, screen_line* screen,
+                 std::ostream& log) {
   for (const source& s : chosen.sources) {
-    session_source opened(s, z.var);
+    session_source opened(s, z.var, screen);
     if (!opened.is_open()) {
       std::cerr << "zep: can't open " << s.text << "\n";
       return 1;
@@ -77,7 +79,9 @@ int run_program(const options& chosen) {
   session z(in, chosen.seed);
   z.stop_on_error = chosen.stop_on_error;
   greet(z, chosen.decorated);
-  const int status = run_sessions(z, in, chosen, log);
+  std::optional<screen_line> screen;
+  if (at_a_terminal()) screen.emplace();
+  const int status = run_sessions(z, in, chosen, screen ? &*screen : nullptr, log);
   take_leave(z, chosen.decorated);
   return status;
 }

@@ -23,23 +23,28 @@ std::unique_ptr<std::streambuf> file_buffer(const std::string& name) {
   return file;
 }
 
-bool at_a_terminal() { return ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0; }
-
-std::unique_ptr<std::streambuf> keyboard(const identifier_table& identifiers) {
+std::unique_ptr<std::streambuf> keyboard(const identifier_table& identifiers, screen_line& screen) {
   catch_interrupts();
   return std::make_unique<terminal_input>(
-      [&](const std::string& prompt, const std::string& before) {
+      screen, [&](const std::string& prompt, const std::string& before) {
         return complete(identifiers, prompt, before);
       });
 }
 
 }  // namespace
 
-session_source::session_source(const source& s, const identifier_table& identifiers) {
+bool at_a_terminal() { return ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0; }
+
+session_source::session_source(const source& s, const identifier_table& identifiers,
+                               screen_line* screen) {
   switch (s.from) {
     case source::kind::standard_input:
-      is_terminal_ = at_a_terminal();
-      buffer_ = is_terminal_ ? keyboard(identifiers) : std::make_unique<standard_input>();
+      is_terminal_ = screen != nullptr;
+      if (is_terminal_) {
+        buffer_ = keyboard(identifiers, *screen);
+      } else {
+        buffer_ = std::make_unique<standard_input>();
+      }
       break;
     case source::kind::file:
       buffer_ = file_buffer(s.text);

@@ -6,15 +6,19 @@
 
 #include "front/identifiers.h"
 #include "front/options.h"
+#include "front/screen_line.h"
 
 namespace zep {
+
+// True when standard input and standard output are a terminal.
+bool at_a_terminal();
 
 // An opened source of a session.
 class session_source {
  public:
-  // Opens the source. Standard input gets line editing when it and standard output are a terminal,
-  // which offers names out of `identifiers`; these must outlive this.
-  session_source(const source& s, const identifier_table& identifiers);
+  // Opens the source. Standard input gets line editing where there is a screen; it offers names out
+  // of `identifiers`. Both must outlive this.
+  session_source(const source& s, const identifier_table& identifiers, screen_line* screen);
 
   bool is_open() const { return buffer_ != nullptr; }
   // What is typed stands on the screen already.

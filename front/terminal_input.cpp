@@ -18,14 +18,22 @@ std::string without_blanks_at_its_end(std::string line) {
 
 }  // namespace
 
-terminal_input::terminal_input(const completer& complete) { start_editing(complete); }
+terminal_input::terminal_input(screen_line& screen, const completer& complete) : screen_(screen) {
+  start_editing(complete);
+}
 
 terminal_input::~terminal_input() { end_editing(); }
+
+int terminal_input::sync() {
+  setg(nullptr, nullptr, nullptr);
+  forget_pasted_lines();
+  return 0;
+}
 
 terminal_input::int_type terminal_input::underflow() {
   if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
   // An interrupt that came too late for the computation it was meant for.
-  static_cast<void>(take_interrupt());
+  if (take_interrupt()) forget_pasted_lines();
   while (!ended_) {
     const std::string prompted = take_prompt();
     std::cout.flush();

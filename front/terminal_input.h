@@ -16,16 +16,19 @@ namespace zep {
 // input has ended it stays ended.
 class terminal_input : public std::streambuf {
  public:
-  explicit terminal_input(const completer& complete);
+  // Reads in the line of the screen, which must outlive this.
+  terminal_input(screen_line& screen, const completer& complete);
   ~terminal_input() override;
   terminal_input(const terminal_input&) = delete;
   terminal_input& operator=(const terminal_input&) = delete;
 
  protected:
   int_type underflow() override;
+  // Drops what has been typed or pasted already.
+  int sync() override;
 
  private:
-  screen_line screen_;
+  screen_line& screen_;
   std::string line_;
   bool ended_ = false;
 };

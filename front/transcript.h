@@ -16,6 +16,7 @@ class repeated_input : public std::streambuf {
 
  protected:
   int_type underflow() override;
+  int sync() override { return source_.pubsync(); }
 
  private:
   std::streambuf& source_;

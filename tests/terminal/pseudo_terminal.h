@@ -13,9 +13,9 @@ namespace zep {
 class pseudo_terminal {
  public:
   // Starts the program with these arguments at a terminal of so many columns. Line editing reads
-  // its configuration from a file: one of the tests unless another is named.
+  // its configuration from a file.
   explicit pseudo_terminal(const std::vector<std::string>& command, unsigned short columns = 80,
-                           const char* configuration = ZEP_TEST_INPUTRC);
+                           const char* configuration = "/dev/null");
   ~pseudo_terminal();
   pseudo_terminal(const pseudo_terminal&) = delete;
   pseudo_terminal& operator=(const pseudo_terminal&) = delete;

@@ -20,9 +20,17 @@ const std::string start_of_line = "\x01";
 const std::string search_backwards = "\x12";
 const std::string up = "\x1b[A";
 
-// With bracketed paste, which the key bindings of the tests turn on, line editing tells the
-// terminal before it awaits keys that it wants to know what is pasted.
+// Line editing tells the terminal, before it awaits keys, to mark what is pasted.
 const std::string awaits_keys = "\x1b[?2004h";
+
+// How the cursor is moved there when another line is shown.
+std::string to_column(int column) {
+  std::string keys = "\r";
+  for (int i = 0; i < column; ++i) keys += "\x1b[C";
+  return keys;
+}
+
+std::string pasted(const std::string& text) { return "\x1b[200~" + text + "\x1b[201~"; }
 
 // A path that no test running beside this one has.
 std::string own_path(const std::string& name) {
@@ -254,13 +262,64 @@ TEST_P(LineEditing, PutsABlankBehindAWordThatIsComplete) {
   expect("command needs indentifier");
 }
 
+// Terminals send a carriage return for a line end. What stands behind the last one is edited.
 TEST_P(LineEditing, TakesPastedLinesOneByOne) {
-  pseudo_terminal plain({GetParam()}, 80, "/dev/null");
-  plain.type("random A 5\nalpha A\n");
-  ASSERT_TRUE(plain.shows("alpha = 2")) << plain.shown();
-  plain.type("\x04");
-  EXPECT_EQ(plain.exit_status(), 0);
-  EXPECT_EQ(plain.shown().find(awaits_keys), std::string::npos) << plain.shown();
+  await_prompt();
+  zep_.type(pasted("random A 5\ralpha A\r\nring\nsig"));
+  expect("random A 5\r\n");
+  expect("% alpha A\r\n");
+  expect("alpha = 2");
+  expect("% ring\r\n");
+  expect("F101[XYZT]");
+  await_prompt();
+  expect("sig");
+  type_line("ma A");
+  expect("sigma = ");
+  await_prompt();
+  type_line(up + up + up);
+  expect("alpha = 2");
+}
+
+TEST_P(LineEditing, TakesTabsOfWhatIsPastedForBlanks) {
+  await_prompt();
+  zep_.type(pasted("get A\r2\r1\t2\t3\t4\r1\t3\t5\t7\r"));
+  expect("1. point entered : <1:2:3:4>");
+  expect("2. point entered : <1:3:5:7>");
+  await_prompt();
+  type_line("A");
+  expect("<1:2:3:4><1:3:5:7>");
+}
+
+TEST_P(LineEditing, PutsWhatIsPastedWhereTheCursorIs) {
+  await_prompt();
+  zep_.type("ri" + start_of_line + pasted("x") + "\x05" + pasted("ng"));
+  type_line(start_of_line + "\x1b[3~");
+  expect("F101[XYZT]");
+}
+
+TEST_P(LineEditing, DropsTheRestOfWhatIsPastedAtAnInterrupt) {
+  await_prompt();
+  zep_.type(pasted("random A " + std::to_string(many_points) + "\rbumo A\rnonsense\rnonsense\r"));
+  expect("[" + std::to_string(many_points - 1) + "]");
+  zep_.type(ctrl_c);
+  expect("interrupted");
+  await_prompt();
+  type_line("ring");
+  expect("F101[XYZT]");
+  await_prompt();
+  EXPECT_EQ(zep_.shown().find("nonsense"), std::string::npos) << zep_.shown();
+}
+
+TEST_P(LineEditing, EndsTheLineOfThePromptAtTheEndOfTheInput) {
+  for (const char* const configuration : {"/dev/null", ZEP_TEST_INPUTRC}) {
+    pseudo_terminal screen({GetParam()}, 80, configuration);
+    ASSERT_TRUE(screen.shows("% ")) << screen.shown();
+    screen.type(ctrl_d);
+    ASSERT_TRUE(screen.shows("thanks for using ZEP")) << screen.shown();
+    EXPECT_EQ(screen.exit_status(), 0);
+    EXPECT_EQ(screen.shown().find("% -----"), std::string::npos) << screen.shown();
+    EXPECT_EQ(screen.shown().find("\n\r\n"), std::string::npos) << screen.shown();
+  }
 }
 
 TEST_P(LineEditing, GivesUpASearchAtAnInterrupt) {
@@ -315,11 +374,27 @@ TEST_P(LineEditing, KnowsWhatStandsBeforeThePrompt) {
   expect("writelinid A /dev/null");
   // To show another line the cursor goes back behind what was there.
   zep_.type(up);
-  std::string behind_the_prompt = "\r";
-  for (std::size_t i = 0; i < std::string("enter filename : % ").size(); ++i) {
-    behind_the_prompt += "\x1b[C";
-  }
-  expect(behind_the_prompt);
+  expect(to_column(19));
+}
+
+TEST_P(LineEditing, KnowsThatProgressHasEndedALine) {
+  await_prompt();
+  type_line("random A 5");
+  await_prompt();
+  type_line("putlinid A /dev/null");
+  await_question("\r\n% ");
+  zep_.type(up);
+  expect("putlinid A /dev/null");
+  zep_.type(up);
+  expect(to_column(2));
+}
+
+TEST_P(LineEditing, KnowsWhatAnEarlierSessionHasLeftOnTheLine) {
+  pseudo_terminal screen({GetParam(), "-e", "quiet", "-"});
+  ASSERT_TRUE(screen.shows("% % ")) << screen.shown();
+  ASSERT_TRUE(screen.shows(awaits_keys)) << screen.shown();
+  screen.type(std::string(30, 'x') + start_of_line);
+  ASSERT_TRUE(screen.shows("x" + to_column(4))) << screen.shown();
 }
 
 TEST_P(LineEditing, CompletesFileNames) {
