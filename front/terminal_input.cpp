@@ -32,11 +32,18 @@ int terminal_input::sync() {
 
 terminal_input::int_type terminal_input::underflow() {
   if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
-  // An interrupt that came too late for the computation it was meant for.
-  if (take_interrupt()) forget_pasted_lines();
   while (!ended_) {
     const std::string prompted = take_prompt();
     std::cout.flush();
+    // One that came before the line is awaited counts as well. It may have been meant for a
+    // computation that has ended.
+    if (take_interrupt()) {
+      if (prompted != command_prompt) throw interrupted();
+      forget_pasted_lines();
+      std::cout << "\n";
+      prompt(command_prompt);
+      continue;
+    }
     typed_line typed = read_line(prompted, screen_.text());
     screen_.start_anew();
     if (typed.how == typed_line::ending::line) {
