@@ -12,23 +12,11 @@
 
 #include <cstdint>
 
-#include "linalg/residues.h"
-
 namespace zep::avx512 {
 
 using byte = std::uint8_t;
 using word = __m512i;
 
 [[gnu::target("avx512bw")]] inline word load(const byte* from) { return _mm512_loadu_si512(from); }
-
-[[gnu::target("avx512bw")]] inline void store(byte* to, word x) { _mm512_storeu_si512(to, x); }
-
-[[gnu::target("avx512bw")]] inline word all_lanes(lane x) {
-  return _mm512_set1_epi16(static_cast<short>(x));
-}
-
-[[gnu::target("avx512bw")]] inline word all_bytes(lane x) {
-  return _mm512_set1_epi8(static_cast<char>(x));
-}
 
 }  // namespace zep::avx512

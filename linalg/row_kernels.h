@@ -44,11 +44,7 @@ extern const row_kernels portable_kernels;
 // Vector instructions of 32 bytes. Null where the processor does not have them.
 const row_kernels* avx2_kernels();
 
-// Their axpy, for rows that are too short for longer words. Only for processors that have them, and
-// compiled for x86 only.
-void axpy_with_avx2(std::uint8_t* d, const std::uint8_t* s, std::size_t n, factor c);
-
-// Vector instructions of 64 bytes where these are faster. Null where the processor does not have
+// The same with tiles in vector instructions of 64 bytes. Null where the processor does not have
 // them.
 const row_kernels* avx512_kernels();
 

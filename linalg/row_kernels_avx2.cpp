@@ -37,6 +37,10 @@ template <class Operation>
   if (n > 0) in_pieces<1>(d, a, b, n, of);
 }
 
+[[gnu::target("avx2")]] void axpy(byte* d, const byte* s, std::size_t n, factor c) {
+  apply(d, d, s, n, plus_multiple(c));
+}
+
 [[gnu::target("avx2")]] void add(byte* d, const byte* s, std::size_t n, lane p) {
   apply(d, d, s, n, plus{all_bytes(p)});
 }
@@ -110,7 +114,7 @@ struct sum_of_products {
 }
 
 constexpr row_kernels kernels = {.name = "AVX2",
-                                 .axpy = axpy_with_avx2,
+                                 .axpy = axpy,
                                  .add = add,
                                  .subtract = subtract,
                                  .add_bits = add_bits,
@@ -121,10 +125,6 @@ constexpr row_kernels kernels = {.name = "AVX2",
                                  .add_to_tile = add_to_tile_with_avx2};
 
 }  // namespace
-
-[[gnu::target("avx2")]] void axpy_with_avx2(byte* d, const byte* s, std::size_t n, factor c) {
-  apply(d, d, s, n, plus_multiple(c));
-}
 
 const row_kernels* avx2_kernels() {
   return __builtin_cpu_supports("avx2") != 0 ? &kernels : nullptr;
