@@ -1,14 +1,15 @@
 #include <readline/history.h>
 #include <readline/readline.h>
 
-#include <algorithm>
 #include <csetjmp>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <queue>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "front/interruption.h"
@@ -23,8 +24,9 @@ struct state {
   completer complete;
   std::string prompt;
   completions found;
-  // What has been pasted and is not in the line yet.
-  std::string pasted;
+  // What has been pasted and is not in the line yet: lines, and what stands behind the last one.
+  std::queue<std::string> pasted_lines;
+  std::string pasted_piece;
   // While a line is read.
   const held_interrupts* held = nullptr;
   // Where an interrupt leads, out of the library, whatever dialogue of its own that is in.
@@ -91,36 +93,35 @@ int next_key(std::FILE* /*terminal*/) {
   return EOF;
 }
 
-// Takes the text up to the first line end out of what has been pasted, or all of it.
-std::string next_pasted_piece() {
-  std::string& pasted = editor().pasted;
-  const std::size_t end = std::min(pasted.find('\n'), pasted.size());
-  std::string piece = pasted.substr(0, end);
-  pasted.erase(0, end);
-  return piece;
-}
-
-// Passes over a line end in what has been pasted. True if there is one.
-bool pass_pasted_line_end() {
-  std::string& pasted = editor().pasted;
-  if (pasted.empty()) return false;
-  pasted.erase(0, 1);
-  return true;
-}
-
 // Reads what is pasted up to the mark at its end. Nothing here is destroyed late when an interrupt
 // leads out. A terminal sends a carriage return for a line end.
 void read_pasted() {
   constexpr std::string_view end_mark = "\x1b[201~";
-  std::string& pasted = editor().pasted;
-  while (!pasted.ends_with(end_mark)) {
+  std::string& piece = editor().pasted_piece;
+  int before = 0;
+  while (!piece.ends_with(end_mark)) {
     const int key = ::rl_read_key();
     if (key == EOF) return;
-    if (key == '\n' && pasted.ends_with('\r')) pasted.pop_back();
-    if (key != 0) pasted += static_cast<char>(key);
+    if (key == '\r' || (key == '\n' && before != '\r')) {
+      editor().pasted_lines.push(std::exchange(piece, {}));
+    } else if (key != '\n' && key != 0) {
+      piece += static_cast<char>(key);
+    }
+    before = key;
   }
-  pasted.erase(pasted.size() - end_mark.size());
-  std::replace(pasted.begin(), pasted.end(), '\r', '\n');
+  piece.erase(piece.size() - end_mark.size());
+}
+
+std::string next_pasted_line() {
+  std::string line = std::move(editor().pasted_lines.front());
+  editor().pasted_lines.pop();
+  return line;
+}
+
+// Puts the piece behind the last pasted line into the line, which can be edited then.
+int insert_pasted_piece() {
+  ::rl_insert_text(std::exchange(editor().pasted_piece, {}).c_str());
+  return 0;
 }
 
 // What is pasted is text, whatever its characters do as keys, and each of its lines is like a line
@@ -128,16 +129,10 @@ void read_pasted() {
 // edited.
 int take_paste(int /*count*/, int /*key*/) {
   read_pasted();
-  ::rl_insert_text(next_pasted_piece().c_str());
-  if (!pass_pasted_line_end()) return 0;
+  if (editor().pasted_lines.empty()) return insert_pasted_piece();
+  ::rl_insert_text(next_pasted_line().c_str());
   rl_redisplay_function();
   return ::rl_newline(1, '\n');
-}
-
-// The last piece of what was pasted, without a line end, is a line to be edited.
-int begin_with_pasted_piece() {
-  ::rl_insert_text(next_pasted_piece().c_str());
-  return 0;
 }
 
 void show(const std::string& text) {
@@ -160,14 +155,6 @@ void give_up_line() {
                 RL_STATE_MOREINPUT | RL_STATE_NUMERICARG | RL_STATE_METANEXT);
 }
 
-// The next line of what was pasted, shown as if it was typed.
-typed_line pasted_line() {
-  const std::string text = next_pasted_piece();
-  pass_pasted_line_end();
-  show(text + "\n");
-  return {typed_line::ending::line, text};
-}
-
 struct free_memory {
   void operator()(char* text) const { ::rl_free(text); }
 };
@@ -182,7 +169,7 @@ void start_editing(const completer& complete) {
   rl_completer_word_break_characters = " \t";
   // An interrupt is shown behind the line, not where the cursor is.
   ::rl_variable_bind("echo-control-characters", "off");
-  rl_startup_hook = begin_with_pasted_piece;
+  rl_startup_hook = insert_pasted_piece;
   ::rl_initialize();
   for (const Keymap keys : {emacs_standard_keymap, vi_insertion_keymap}) {
     ::rl_bind_keyseq_in_map("\\e[200~", take_paste, keys);
@@ -198,7 +185,11 @@ typed_line read_line(const std::string& prompt, const std::string& before_it) {
   const held_interrupts held;
   editor().held = &held;
   editor().prompt = prompt;
-  if (editor().pasted.find('\n') != std::string::npos) return pasted_line();
+  if (!editor().pasted_lines.empty()) {
+    const std::string line = next_pasted_line();
+    show(line + "\n");
+    return {typed_line::ending::line, line};
+  }
   rl_already_prompted = 1;
   if (setjmp(editor().interrupted) != 0) {
     give_up_line();
@@ -214,7 +205,10 @@ typed_line read_line(const std::string& prompt, const std::string& before_it) {
   return {typed_line::ending::line, std::string(line.get())};
 }
 
-void forget_pasted_lines() { editor().pasted.clear(); }
+void forget_pasted_lines() {
+  editor().pasted_lines = {};
+  editor().pasted_piece.clear();
+}
 
 void remember_line(const std::string& line) { ::add_history(line.c_str()); }
 

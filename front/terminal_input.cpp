@@ -30,22 +30,24 @@ int terminal_input::sync() {
   return 0;
 }
 
+// An interrupt that came before the line is awaited counts as well.
+typed_line terminal_input::next_line(const std::string& prompted) {
+  if (take_interrupt()) {
+    forget_pasted_lines();
+    std::cout << "\n";
+    return {typed_line::ending::interrupt, {}};
+  }
+  typed_line typed = read_line(prompted, screen_.text());
+  screen_.start_anew();
+  return typed;
+}
+
 terminal_input::int_type terminal_input::underflow() {
   if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
   while (!ended_) {
     const std::string prompted = take_prompt();
     std::cout.flush();
-    // One that came before the line is awaited counts as well. It may have been meant for a
-    // computation that has ended.
-    if (take_interrupt()) {
-      if (prompted != command_prompt) throw interrupted();
-      forget_pasted_lines();
-      std::cout << "\n";
-      prompt(command_prompt);
-      continue;
-    }
-    typed_line typed = read_line(prompted, screen_.text());
-    screen_.start_anew();
+    typed_line typed = next_line(prompted);
     if (typed.how == typed_line::ending::line) {
       line_ = without_blanks_at_its_end(std::move(typed.text));
       if (!line_.empty()) remember_line(line_);

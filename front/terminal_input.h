@@ -28,6 +28,8 @@ class terminal_input : public std::streambuf {
   int sync() override;
 
  private:
+  typed_line next_line(const std::string& prompted);
+
   screen_line& screen_;
   std::string line_;
   bool ended_ = false;

@@ -2,17 +2,21 @@
 
 #if defined(__x86_64__) || defined(__i386__)
 
-#include <cstring>
+// The compiler takes the undefined parts of some words for mistakes in its own header.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuninitialized"
+#include <immintrin.h>
+#pragma GCC diagnostic pop
 
-#include "linalg/avx512.h"
+#include <cstring>
 
 namespace zep {
 
 namespace {
 
-using avx512::byte;
+using byte = std::uint8_t;
 // A row of a tile, in 32-bit sums.
-using avx512::word;
+using word = __m512i;
 
 static_assert(tile_rows == 4 && tile_cols == 16);
 
@@ -21,7 +25,7 @@ static_assert(tile_rows == 4 && tile_cols == 16);
 }
 
 [[gnu::target("avx512bw")]] inline word elements_at(const std::int16_t* b) {
-  return avx512::load(reinterpret_cast<const byte*>(b));
+  return _mm512_loadu_si512(b);
 }
 
 // Adds the products of a pair of neighbours with all elements.
@@ -56,8 +60,7 @@ class reduction {
 
 }  // namespace
 
-[[gnu::target("avx512bw")]] void add_to_tile_with_avx512(std::uint8_t* const* c,
-                                                         const std::int16_t* a,
+[[gnu::target("avx512bw")]] void add_to_tile_with_avx512(byte* const* c, const std::int16_t* a,
                                                          const std::int16_t* b, std::size_t pairs,
                                                          lane p) {
   // All sums stay in registers.
