@@ -11,7 +11,7 @@ TEST(ExhaustedMemory, EndsTheProcessWithStatusTenAndAMessageOnStandardError) {
   EXPECT_EXIT(mem_warn(), testing::ExitedWithCode(10), "^\nNew: can't allocate enough memory\n$");
 }
 
-TEST(ExhaustedMemory, IsAnsweredWhereverItIsAskedForOnceThatIsInstalled) {
+TEST(ExhaustedMemory, IsAnsweredByTheHandlerOfNewOnceThatIsInstalled) {
   // The process that this is done in ends with the check.
   EXPECT_EXIT(
       {

@@ -173,11 +173,7 @@ TEST(DispLinid, ShowsZerosBeforeAnythingIsComputed) {
 }
 
 TEST(DispLinid, HasColumnsAsWideAsTheirEntries) {
-  const ring_in_force ring(101, 3);
-  scheme X = make_set({{1, 2, 3}});
-  X.alpha = 2;
-  X.linres[0] = {7, 1000, 12345};
-  EXPECT_EQ(shown(disp_linid, X),
+  EXPECT_EQ(shown_table(disp_linid, {.alpha = 2, .of_I_X = {7, 1000, 12345}}),
             "    | 1   2    3     \n---------------------\ndeg | 2   1    0     \n"
             "I_X | 7   1000 12345 \n" +
                 line);

@@ -190,47 +190,31 @@ TEST(LinearStrands, AreComputedApart) {
 }
 
 TEST(DispLinom, PadsAnEntryToTheWidthOfTheColumnWithItsIndex) {
-  const ring_in_force ring(101, 3);
-  scheme X = make_set({{1, 2, 3}});
-  X.sigma = 3;
-  X.linres[1] = {7, 60, 12345};
   // The columns are 5, 3 and 3 wide; the entries are padded to 3, 3 and 5.
-  EXPECT_EQ(shown(disp_linom, X),
+  EXPECT_EQ(shown_table(disp_linom, {.sigma = 3, .of_w_R = {7, 60, 12345}}),
             "    | 1     2   3   \n--------------------\ndeg | -3    -4  -5  \n"
             "w_R | 1234560  7     \n" +
                 line);
 }
 
 TEST(DispLinom, HasNoWiderColumnsForItsDegrees) {
-  const ring_in_force ring(101, 3);
-  scheme X = make_set({{1, 2, 3}});
-  X.sigma = 99;
-  X.linres[1] = {1, 2, 3};
-  EXPECT_EQ(shown(disp_linom, X),
+  EXPECT_EQ(shown_table(disp_linom, {.sigma = 99, .of_w_R = {1, 2, 3}}),
             "    | 1   2   3   \n------------------\ndeg | -99 -100-101\n"
             "w_R | 3   2   1   \n" +
                 line);
 }
 
 TEST(DispLinres, HasNoWiderColumnsForItsDegrees) {
-  const ring_in_force ring(101, 3);
-  scheme X = make_set({{1, 2, 3}});
-  X.alpha = 1;
-  X.sigma = 98;
-  X.linres = {std::vector<int>{2, 1, 0}, std::vector<int>{1, 2, 1}};
-  EXPECT_EQ(shown(disp_linres, X),
-            "    | 1   2   3   \n------------------\ndeg | 1   0   -1  \nI_X | 2   1   0   \n"
-            "------------------\nw_R | 1   2   1   \ndeg | -100-99 -98 \n" +
-                line);
+  EXPECT_EQ(
+      shown_table(disp_linres, {.alpha = 1, .sigma = 98, .of_I_X = {2, 1, 0}, .of_w_R = {1, 2, 1}}),
+      "    | 1   2   3   \n------------------\ndeg | 1   0   -1  \nI_X | 2   1   0   \n"
+      "------------------\nw_R | 1   2   1   \ndeg | -100-99 -98 \n" +
+          line);
 }
 
 TEST(DispLinres, ShowsBothStrandsWithWidthsForBoth) {
-  const ring_in_force ring(101, 3);
-  scheme X = make_set({{1, 2, 3}});
-  X.alpha = 2;
-  X.sigma = 1;
-  X.linres = {std::vector<int>{1, 1000, 3}, std::vector<int>{12345, 6, 7}};
-  EXPECT_EQ(shown(disp_linres, X),
+  EXPECT_EQ(shown_table(disp_linres,
+                        {.alpha = 2, .sigma = 1, .of_I_X = {1, 1000, 3}, .of_w_R = {12345, 6, 7}}),
             "    | 1     2    3   \n---------------------\ndeg | 2     1    0   \n"
             "I_X | 1     1000 3   \n---------------------\nw_R | 12345 6    7   \n"
             "deg | -3    -2   -1  \n" +

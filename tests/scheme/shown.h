@@ -27,6 +27,24 @@ inline std::string shown(display show, const std::vector<coordinates>& points) {
   return shown(show, X);
 }
 
+// What is in the record of a set of P^3 about its linear strands.
+struct strand_numbers {
+  int alpha = 0;
+  int sigma = 0;
+  std::vector<int> of_I_X = std::vector<int>(3);
+  std::vector<int> of_w_R = std::vector<int>(3);
+};
+
+// The table of these.
+inline std::string shown_table(display show, const strand_numbers& numbers) {
+  const ring_in_force ring(101, 3);
+  scheme X = make_set({{1, 2, 3}});
+  X.alpha = numbers.alpha;
+  X.sigma = numbers.sigma;
+  X.linres = {numbers.of_I_X, numbers.of_w_R};
+  return shown(show, X);
+}
+
 // How the first lines of long polynomials end, where the column at which they were begun shows.
 struct line_ends {
   // Lines that could not have been longer, and breaks before terms that just did not fit.
