@@ -188,7 +188,7 @@ constexpr auto table = std::to_array<command_record>({
     {"type", point_set, "A", "the number of generators of the socle", show<typ>},
     {"verbose", none, "", "reports the progress of long computations on standard error",
      set_verbose<1>},
-    {"write", point_set, "A FILE", "writes all that display shows", write},
+    {"write", point_set, "A FILE", "writes what display shows, but for the order ideal", write},
     {"writelinid", point_set, "A FILE", "writes the table of linid as it is", writelinid},
     {"writelinom", point_set, "A FILE", "writes the table of linom as it is", writelinom},
     {"writelinres", point_set, "A FILE", "writes the table of linres as it is", writelinres},

@@ -1,6 +1,6 @@
 #include "scheme/display.h"
 
-#include <ostream>
+#include <iostream>
 
 #include "arith/output.h"
 #include "scheme/gorenstein.h"
@@ -18,7 +18,7 @@ std::ostream& operator<<(std::ostream& out, scheme& X) {
   disp_scheme(out, X);
   out << "\n" << Line;
   if (X.has_bu_mo) {
-    order_ideal(out, X);
+    order_ideal(std::cout, X);
     hilb_fct(out, X);
     delta_fct(out, X);
     sigma_X(out, X);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "scheme/display.h"
+#include "tests/scheme/computing.h"
 #include "tests/scheme/shown.h"
 #include "tests/scheme/special_sets.h"
 
@@ -227,11 +228,7 @@ TEST(Omega, LeavesTheDimensionAsItWas) {
 TEST(Omega, IsPartOfTheDisplayOnceItExists) {
   const ring_in_force ring;
   scheme X = make_set(points_of_frame());
-  const auto shown_record = [&] {
-    std::ostringstream out;
-    out << X;
-    return out.str();
-  };
+  const auto shown_record = [&] { return by([&](std::ostream& out) { out << X; }).given; };
   EXPECT_EQ(shown_record().find(heading), std::string::npos);
   shown(disp_omega, X);
   EXPECT_TRUE(shown_record().ends_with(heading + "P^5(-1) --> P(1) --> w_R --> 0\n" + line));
