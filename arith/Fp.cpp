@@ -7,7 +7,7 @@
 
 #include "arith/division_by_zero.h"
 
-namespace zep {
+namespace zep::arith {
 
 int Fp::prime = 31991;
 
@@ -75,4 +75,4 @@ int len(const Rational& r) { return static_cast<int>(r.get_str().size()); }
 
 int len(Fp x) { return len(symmetric(x)); }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -6,7 +6,7 @@
 
 #include "arith/reading.h"
 
-namespace zep {
+namespace zep::arith {
 
 // An element of F_p, `prime` = p. The int is normally the representative 0 .. p-1. Three operations
 // hand on other values, and nothing corrects them: construction stores what it is given, assignment
@@ -91,4 +91,4 @@ int len(int n);
 int len(const Rational& r);
 int len(Fp x);
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -5,7 +5,7 @@
 #include "arith/Fp.h"
 #include "arith/division_by_zero.h"
 
-namespace zep {
+namespace zep::arith {
 
 int Fp8::prime = 101;
 std::uint32_t Fp8::reciprocal = 0xFFFFFFFF / 101;
@@ -58,4 +58,4 @@ std::istream& operator>>(std::istream& in, Fp8& a) {
   return in;
 }
 
-}  // namespace zep
+}  // namespace zep::arith

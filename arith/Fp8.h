@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <iosfwd>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::arith {
 
 // The largest one whose elements fit a byte.
 constexpr int largest_prime = 251;
@@ -87,4 +89,4 @@ std::ostream& operator<<(std::ostream& out, Fp8 a);
 // Reads a rational number modulo p, as Fp does; 0 when that fails.
 std::istream& operator>>(std::istream& in, Fp8& a);
 
-}  // namespace zep
+}  // namespace zep::arith

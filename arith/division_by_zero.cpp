@@ -3,11 +3,11 @@
 #include <cstdlib>
 #include <iostream>
 
-namespace zep {
+namespace zep::arith {
 
 void division_by_zero(std::string_view field) {
   std::cout << "\n" << field << ": division by zero\n" << std::flush;
   std::exit(1);
 }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -9,7 +9,7 @@
 
 #include "arith/ordering.h"
 
-namespace zep {
+namespace zep::arith {
 
 // A list of values of type T, ordered as they were added. `min_del` takes time linear in the
 // length; work sets that grow with the number of points want a sorted vector instead.
@@ -61,4 +61,4 @@ class list {
   std::list<T> items_;
 };
 
-}  // namespace zep
+}  // namespace zep::arith

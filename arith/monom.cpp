@@ -5,9 +5,9 @@
 #include <type_traits>
 
 #include "arith/Fp.h"
-#include "arith/index.h"
+#include "base/index.h"
 
-namespace zep {
+namespace zep::arith {
 
 static_assert(std::is_trivially_copyable_v<monom>);
 
@@ -127,4 +127,4 @@ void put(std::ostream& out, const monom& m) {
   out << text;
 }
 
-}  // namespace zep
+}  // namespace zep::arith

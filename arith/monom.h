@@ -7,11 +7,11 @@
 #include <iosfwd>
 #include <string>
 
-#include "arith/index.h"
-#include "arith/output.h"
 #include "arith/ring.h"
+#include "base/index.h"
+#include "base/output.h"
 
-namespace zep {
+namespace zep::arith {
 
 // A monomial: affine, in the first `dim` variables, or projective, in all `proj` of them with the
 // homogenising variable last. The member `dim` is its own number of slots; in this comment the
@@ -28,7 +28,7 @@ class monom {
   // All `proj` slots hold c; `dim` is the ring's. monom() is the monomial 1.
   explicit monom(exponent c = 0) {
     *this = c;
-    dim_ = static_cast<std::int16_t>(zep::dim);
+    dim_ = static_cast<std::int16_t>(arith::dim);
   }
 
   // All `proj` slots become c; `dim` stays.
@@ -120,4 +120,4 @@ std::ostream& operator<<(std::ostream& out, const monom& m);
 // File form.
 void put(std::ostream& out, const monom& m);
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -1,6 +1,6 @@
 #include "arith/ordering.h"
 
-namespace zep {
+namespace zep::arith {
 
 namespace {
 
@@ -111,4 +111,4 @@ void use_degrevlex() {
   proj_monom_ordering_le = proj_degrevlex_le;
 }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -8,7 +8,7 @@
 
 #include "arith/monom.h"
 
-namespace zep {
+namespace zep::arith {
 
 using monom_comparison = bool (*)(const monom& a, const monom& b);
 
@@ -55,4 +55,4 @@ inline bool operator<=(const monom& a, const monom& b) {
 }
 inline bool operator>=(const monom& a, const monom& b) { return b <= a; }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -9,10 +9,10 @@
 #include <utility>
 
 #include "arith/ordering.h"
-#include "arith/output.h"
-#include "arith/paranoid.h"
+#include "base/output.h"
+#include "base/paranoid.h"
 
-namespace zep {
+namespace zep::arith {
 
 namespace {
 
@@ -267,4 +267,4 @@ void polynomial::put(std::ostream& out) const {
   out << text;
 }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "arith/Fp8.h"
-#include "arith/index.h"
 #include "arith/monom.h"
+#include "base/index.h"
 
-namespace zep {
+namespace zep::arith {
 
 // A sum of terms, strictly descending in the order in force, every coefficient non-zero. The zero
 // polynomial is the single term 0 * 1, so looking at the leading coefficient tells zero.
@@ -91,4 +91,4 @@ void hom(polynomial& h, const polynomial& f);
 // before a term that would bring it to LL - 1 or beyond, but never before the first one.
 std::ostream& operator<<(std::ostream& out, const polynomial& f);
 
-}  // namespace zep
+}  // namespace zep::arith

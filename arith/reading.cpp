@@ -5,7 +5,7 @@
 
 #include "arith/division_by_zero.h"
 
-namespace zep {
+namespace zep::arith {
 
 namespace {
 
@@ -76,4 +76,4 @@ std::istream& read_rational(std::istream& in, Rational& r) {
   return complete(in);
 }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -12,7 +12,9 @@
 
 #include <istream>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::arith {
 
 using Rational = mpq_class;
 using Integer = mpz_class;
@@ -25,4 +27,4 @@ std::istream& read_integer(std::istream& in, int& n);
 // lowest terms with a positive denominator. A zero denominator is the division by zero of Fp.
 std::istream& read_rational(std::istream& in, Rational& r);
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -1,6 +1,6 @@
 #include "arith/ring.h"
 
-namespace zep {
+namespace zep::arith {
 
 int dim = 3;
 int proj = 4;
@@ -11,4 +11,4 @@ void set_dimension(int n) {
   proj = n + 1;
 }
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -7,7 +7,9 @@
 
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::arith {
 
 // No ring has more variables: one monomial slot each.
 constexpr int max_variables = 27;
@@ -37,4 +39,4 @@ class raised_dim {
   int before_;
 };
 
-}  // namespace zep
+}  // namespace zep::arith

@@ -3,7 +3,9 @@
 
 #include <cstdint>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // A counter with well mixed bits. Unlike those of a linear congruence, the low bits are as
 // irregular as the high ones, and numbers that follow each other show no pattern as coordinates.
@@ -26,4 +28,4 @@ class irregular_numbers {
   std::uint64_t state_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -2,25 +2,25 @@
 #include <new>
 #include <stdexcept>
 
-#include "front/memory.h"
 #include "front/options.h"
-#include "front/process.h"
+#include "front/process/memory.h"
+#include "front/process/process.h"
 #include "front/program.h"
 
 int main(int argc, char** argv) {
-  zep::prepare_process();
+  zep::front::prepare_process();
   std::ios::sync_with_stdio(false);
-  zep::install_mem_warn();
+  zep::front::install_mem_warn();
   int status = 0;
   try {
-    const zep::command_line line = zep::read_command_line(argc, argv);
-    status = line.status ? *line.status : zep::run_program(line.chosen);
+    const zep::front::command_line line = zep::front::read_command_line(argc, argv);
+    status = line.status ? *line.status : zep::front::run_program(line.chosen);
   } catch (const std::bad_alloc&) {
     // A size that no allocator is even asked for.
-    zep::mem_warn();
+    zep::front::mem_warn();
   } catch (const std::length_error&) {
-    zep::mem_warn();
+    zep::front::mem_warn();
   }
-  const int output_status = zep::finish_output();
+  const int output_status = zep::front::finish_output();
   return output_status != 0 ? output_status : status;
 }

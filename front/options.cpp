@@ -9,9 +9,9 @@
 #include <string_view>
 #include <utility>
 
-#include "front/command_reference.h"
+#include "front/commands/command_reference.h"
 
-namespace zep {
+namespace zep::front {
 
 namespace {
 
@@ -131,4 +131,4 @@ command_line read_command_line(int argc, char** argv) {
   return {std::nullopt, std::move(chosen)};
 }
 
-}  // namespace zep
+}  // namespace zep::front

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "front/session.h"
+#include "front/session/session.h"
 
-namespace zep {
+namespace zep::front {
 
 // Where a session comes from.
 struct source {
@@ -40,4 +40,4 @@ struct command_line {
 };
 command_line read_command_line(int argc, char** argv);
 
-}  // namespace zep
+}  // namespace zep::front

@@ -3,14 +3,14 @@
 #include <iostream>
 #include <string>
 
-#include "arith/index.h"
-#include "arith/interrupt.h"
-#include "front/command.h"
-#include "front/error.h"
-#include "front/execution.h"
-#include "front/prompt.h"
+#include "base/index.h"
+#include "base/interrupt.h"
+#include "front/commands/command.h"
+#include "front/commands/execution.h"
+#include "front/session/error.h"
+#include "front/terminal/prompt.h"
 
-namespace zep {
+namespace zep::front {
 
 namespace {
 
@@ -65,4 +65,4 @@ void parser(session& z) {
   }
 }
 
-}  // namespace zep
+}  // namespace zep::front

@@ -1,9 +1,9 @@
 // The command loop.
 #pragma once
 
-#include "front/session.h"
+#include "front/session/session.h"
 
-namespace zep {
+namespace zep::front {
 
 // Prints prompts, reads commands and carries them out until one of them, the end of the input, or
 // an error that is to stop it, ends the session. A command that is interrupted leaves nothing
@@ -13,4 +13,4 @@ void parser(session& z);
 // Whether an error that has been reported ends the program.
 bool has_to_stop(const session& z);
 
-}  // namespace zep
+}  // namespace zep::front

@@ -4,15 +4,15 @@
 #include <iostream>
 #include <optional>
 
-#include "arith/output.h"
+#include "base/output.h"
+#include "front/commands/settings.h"
 #include "front/parser.h"
-#include "front/prompt.h"
-#include "front/screen_line.h"
 #include "front/session_source.h"
-#include "front/settings.h"
-#include "front/transcript.h"
+#include "front/terminal/prompt.h"
+#include "front/terminal/screen_line.h"
+#include "front/terminal/transcript.h"
 
-namespace zep {
+namespace zep::front {
 
 namespace {
 
@@ -93,4 +93,4 @@ void run_program(std::istream& in) {
   take_leave(z, true);
 }
 
-}  // namespace zep
+}  // namespace zep::front

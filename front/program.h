@@ -5,7 +5,7 @@
 
 #include "front/options.h"
 
-namespace zep {
+namespace zep::front {
 
 // Greets, carries out one session after the other, each until `quit` or its end, and takes leave.
 // Starts with the default settings; what a session makes and sets is there in the next one. Returns
@@ -16,4 +16,4 @@ int run_program(const options& chosen);
 // The same with one session and nothing chosen.
 void run_program(std::istream& in);
 
-}  // namespace zep
+}  // namespace zep::front

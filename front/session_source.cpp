@@ -7,13 +7,13 @@
 #include <sstream>
 #include <string>
 
-#include "front/completion.h"
-#include "front/interruption.h"
-#include "front/open_file.h"
-#include "front/standard_input.h"
-#include "front/terminal_input.h"
+#include "front/commands/completion.h"
+#include "front/files/open_file.h"
+#include "front/terminal/interruption.h"
+#include "front/terminal/standard_input.h"
+#include "front/terminal/terminal_input.h"
 
-namespace zep {
+namespace zep::front {
 
 namespace {
 
@@ -55,4 +55,4 @@ session_source::session_source(const source& s, const identifier_table& identifi
   }
 }
 
-}  // namespace zep
+}  // namespace zep::front

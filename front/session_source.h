@@ -4,11 +4,11 @@
 #include <memory>
 #include <streambuf>
 
-#include "front/identifiers.h"
 #include "front/options.h"
-#include "front/screen_line.h"
+#include "front/session/identifiers.h"
+#include "front/terminal/screen_line.h"
 
-namespace zep {
+namespace zep::front {
 
 // True when standard input and standard output are a terminal.
 bool at_a_terminal();
@@ -31,4 +31,4 @@ class session_source {
   bool is_terminal_ = false;
 };
 
-}  // namespace zep
+}  // namespace zep::front

@@ -5,13 +5,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "arith/index.h"
-#include "arith/interrupt.h"
-#include "linalg/product_tile.h"
-#include "linalg/row_kernels.h"
+#include "base/index.h"
+#include "base/interrupt.h"
+#include "linalg/kernels/product_tile.h"
+#include "linalg/kernels/row_kernels.h"
 #include "linalg/row_operations.h"
 
-namespace zep {
+namespace zep::linalg {
 
 namespace {
 
@@ -133,4 +133,4 @@ void add_combinations(std::span<Fp8* const> c, const matrix& a, std::span<const 
   }
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

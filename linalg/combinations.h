@@ -7,7 +7,7 @@
 #include "arith/Fp8.h"
 #include "linalg/matrix.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // Adds to each row of c a combination of the rows of b: c[i] += sum over j of a[i][j] * b[j].
 //
@@ -16,4 +16,4 @@ namespace zep {
 void add_combinations(std::span<Fp8* const> c, const matrix& a, std::span<const Fp8* const> b,
                       std::size_t n);
 
-}  // namespace zep
+}  // namespace zep::linalg

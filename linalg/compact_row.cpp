@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "arith/index.h"
-#include "arith/interrupt.h"
+#include "base/index.h"
+#include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
-namespace zep {
+namespace zep::linalg {
 
 namespace {
 
@@ -74,4 +74,4 @@ void triangulate(std::vector<compact_row>& rows, std::size_t width) {
   }
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

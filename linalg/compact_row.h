@@ -8,7 +8,7 @@
 
 #include "arith/Fp8.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // A row that is kept to be subtracted from others, without its zeros where these are many: either
 // its non-zero elements with their places, or all elements between the first and the last of them.
@@ -52,4 +52,4 @@ class compact_row {
 // no unit.) No row is used before it is finished or changed afterwards.
 void triangulate(std::vector<compact_row>& rows, std::size_t width);
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -4,11 +4,11 @@
 #include <cstring>
 #include <numeric>
 
-#include "arith/index.h"
-#include "arith/interrupt.h"
+#include "base/index.h"
+#include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
-namespace zep {
+namespace zep::linalg {
 
 namespace {
 
@@ -184,4 +184,4 @@ std::optional<std::vector<int>> first_dependent_subset(const matrix& m, int k,
   return std::nullopt;
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

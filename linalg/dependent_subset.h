@@ -7,7 +7,7 @@
 
 #include "linalg/matrix.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // The first k-subset of the rows of m, in colexicographic order, that is linearly dependent, as
 // ascending row numbers; none if all are independent. 1 <= k <= rows and k <= cols.
@@ -17,4 +17,4 @@ namespace zep {
 std::optional<std::vector<int>> first_dependent_subset(const matrix& m, int k,
                                                        const std::function<void(int)>& advanced);
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -2,9 +2,9 @@
 
 #include <iterator>
 
-#include "arith/interrupt.h"
+#include "base/interrupt.h"
 
-namespace zep {
+namespace zep::linalg {
 
 equal_rows::equal_rows(const matrix& m) {
   for (int i = 0; i < m.rows(); ++i) {
@@ -46,4 +46,4 @@ void equal_rows::erase(const std::string& key, int i) {
   if (rows.empty()) groups_.erase(found);
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

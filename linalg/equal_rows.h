@@ -9,7 +9,7 @@
 
 #include "linalg/matrix.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // Groups the rows of a matrix by their contents. Telling the first equal pair, or one changed row,
 // takes time logarithmic in the number of rows, so that removing duplicates from many random points
@@ -42,4 +42,4 @@ class equal_rows {
   std::set<std::pair<int, const group*>> repeated_;
 };
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -7,11 +7,11 @@
 #include <string>
 #include <utility>
 
-#include "arith/index.h"
-#include "arith/interrupt.h"
+#include "base/index.h"
+#include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
-namespace zep {
+namespace zep::linalg {
 
 namespace {
 
@@ -191,4 +191,4 @@ std::istream& operator>>(std::istream& in, matrix& m) {
   return in;
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "arith/Fp8.h"
-#include "arith/paranoid.h"
+#include "base/paranoid.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // A matrix of `rows` x `cols` elements in one block, row after row without gaps:
 //
@@ -79,4 +79,4 @@ std::ostream& operator<<(std::ostream& out, const matrix& m);
 // Reads all entries, row by row.
 std::istream& operator>>(std::istream& in, matrix& m);
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <cstring>
 
-#include "linalg/bounds.h"
-#include "linalg/residues.h"
-#include "linalg/row_kernels.h"
+#include "linalg/kernels/bounds.h"
+#include "linalg/kernels/residues.h"
+#include "linalg/kernels/row_kernels.h"
 
-namespace zep {
+namespace zep::linalg {
 
 namespace {
 
@@ -66,4 +66,4 @@ std::size_t first_nonzero(const Fp8* s, std::size_t n) {
   return i;
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -8,7 +8,7 @@
 
 #include "arith/Fp8.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // Sets d to d + c * s.
 void axpy(Fp8* d, const Fp8* s, Fp8 c, std::size_t n);
@@ -25,4 +25,4 @@ Fp8 dot(const Fp8* a, const Fp8* b, std::size_t n);
 // Position of the first non-zero element, n if there is none.
 std::size_t first_nonzero(const Fp8* s, std::size_t n);
 
-}  // namespace zep
+}  // namespace zep::linalg

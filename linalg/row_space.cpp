@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "arith/index.h"
-#include "arith/interrupt.h"
+#include "base/index.h"
+#include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
-namespace zep {
+namespace zep::linalg {
 
 bool row_space::add(std::vector<Fp8> row) {
   const std::size_t n = row.size();
@@ -34,4 +34,4 @@ matrix row_space::basis() const {
   return m;
 }
 
-}  // namespace zep
+}  // namespace zep::linalg

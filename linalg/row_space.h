@@ -6,7 +6,7 @@
 
 #include "linalg/matrix.h"
 
-namespace zep {
+namespace zep::linalg {
 
 // Independent rows in echelon form: row j is 1 at its pivot, and 0 at the pivots of the rows
 // before. Takes any number of rows, but keeps no more than their rank.
@@ -32,4 +32,4 @@ class row_space {
   std::vector<std::size_t> pivots_;
 };
 
-}  // namespace zep
+}  // namespace zep::linalg

@@ -5,7 +5,9 @@
 #include <sstream>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Keeps what is written to one of the standard streams while it lives.
 class captured {
@@ -23,4 +25,4 @@ class captured {
   std::streambuf* before_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails unless docs/developers.md has one paragraph for each room of the four layers, a header with its
+# Fails unless docs/developers.md has one paragraph for each room of the house, a header with its
 # source, and names no file that does not exist.
 #   developers.sh TOP
 # A paragraph begins with the room, in bold and without extension, or with several of them.
@@ -8,10 +8,13 @@ set -euo pipefail
 cd "$1"
 document=docs/developers.md
 
-rooms() { printf '%s\n' {arith,linalg,scheme,front}/*.{h,cpp} | sed 's/\.[a-z]*$//' | LC_ALL=C sort -u; }
+rooms() {
+  find base arith linalg points text reference front -name '*.h' -o -name '*.cpp' |
+    sed 's/\.[a-z]*$//' | grep -v '^base/floors$' | LC_ALL=C sort -u
+}
 described() {
   awk '!behind && /^\*\*/ { print } { behind = NF }' "$document" |
-    { grep -oE '\*\*[a-z]+/[A-Za-z0-9_]+\*\*' || true; } | tr -d '*' | LC_ALL=C sort
+    { grep -oE '\*\*[a-z]+/[A-Za-z0-9_/]+\*\*' || true; } | tr -d '*' | LC_ALL=C sort
 }
 # shellcheck disable=SC2016 # backquotes are what is looked for
 files_named() {

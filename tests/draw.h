@@ -3,11 +3,13 @@
 
 #include <random>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // A number 0 .. n-1. Unlike the distributions of the library, the same with every compiler.
 inline int below(std::mt19937& random, int n) {
   return static_cast<int>(random() % static_cast<std::mt19937::result_type>(n));
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -4,7 +4,9 @@
 #include <sstream>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // A buffer for an output stream that tells what was in it when it was flushed last.
 class noted_flushes : public std::stringbuf {
@@ -21,4 +23,4 @@ class noted_flushes : public std::stringbuf {
   std::string flushed_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -8,7 +8,7 @@
 
 #include "arith/Fp8.h"
 
-namespace zep {
+namespace zep::tests {
 
 // Rows in echelon form over F_p, grown row by row.
 class plain_echelon {
@@ -46,4 +46,4 @@ class plain_echelon {
   std::vector<std::pair<std::size_t, std::vector<int>>> rows_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

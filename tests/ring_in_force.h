@@ -3,10 +3,10 @@
 
 #include "arith/Fp8.h"
 #include "arith/ordering.h"
-#include "arith/output.h"
 #include "arith/ring.h"
+#include "base/output.h"
 
-namespace zep {
+namespace zep::tests {
 
 enum class term_order { deglex, degrevlex };
 
@@ -34,4 +34,4 @@ class ring_in_force {
   }
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -4,7 +4,9 @@
 #include <sstream>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 template <class T>
 std::string text_of(const T& x) {
@@ -13,4 +15,4 @@ std::string text_of(const T& x) {
   return out.str();
 }
 
-}  // namespace zep
+}  // namespace zep::tests

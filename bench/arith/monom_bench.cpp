@@ -4,7 +4,7 @@
 #include "bench/arith/monomials.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 constexpr int count = 1000;
@@ -32,4 +32,4 @@ BENCHMARK(bench_product)->Name("product of monomials")->ArgName("n")->Arg(3)->Ar
 BENCHMARK(bench_hash)->Name("hash of a monomial")->ArgName("n")->Arg(3)->Arg(5);
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

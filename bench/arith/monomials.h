@@ -9,7 +9,7 @@
 #include "arith/polynomial.h"
 #include "bench/irregular_numbers.h"
 
-namespace zep {
+namespace zep::tests {
 
 // Affine monomials with exponents 0 .. 3: their degrees are near each other, and sometimes equal.
 inline std::vector<monom> irregular_monomials(int count) {
@@ -66,4 +66,4 @@ inline polynomial irregular_polynomial(int terms, std::uint64_t start) {
   return {std::move(term), std::move(coef)};
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -4,7 +4,7 @@
 #include "bench/arith/monomials.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 constexpr int count = 1000;
@@ -36,4 +36,4 @@ BENCHMARK(bench_comparison<term_order::degrevlex>)
     ->Arg(5);
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -2,12 +2,12 @@
 
 #include <sstream>
 
-#include "arith/output.h"
 #include "arith/polynomial.h"
+#include "base/output.h"
 #include "bench/arith/monomials.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // Items are the terms of one summand; the other has as many.
@@ -50,4 +50,4 @@ BENCHMARK(bench_printing<print_on_screen>)->Name("screen form")->ArgName("terms"
 BENCHMARK(bench_printing<print_into_file>)->Name("file form")->ArgName("terms")->Arg(1000);
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "arith/index.h"
+#include "base/index.h"
 #include "bench/irregular_numbers.h"
 #include "linalg/combinations.h"
-#include "linalg/row_kernels.h"
+#include "linalg/kernels/row_kernels.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 matrix some_matrix(int rows, int cols, irregular_numbers& numbers) {
@@ -62,4 +62,4 @@ const bool added = [] {
 }();
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -6,7 +6,7 @@
 #include "linalg/matrix.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 matrix irregular_matrix(int cols, int rows) {
@@ -51,4 +51,4 @@ BENCHMARK(bench_solve<2>)->Name("solve, n x 2n")->Apply(sizes);
 BENCHMARK(bench_rank)->Name("rank, n x n")->Apply(sizes);
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "bench/irregular_numbers.h"
-#include "linalg/row_kernels.h"
+#include "linalg/kernels/row_kernels.h"
 #include "linalg/row_operations.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 std::vector<Fp8> some_row(std::size_t n, std::uint64_t start) {
@@ -83,4 +83,4 @@ const bool added = [] {
 }();
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -17,7 +17,7 @@
 
 #include "bench/sessions/session_case.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -115,4 +115,4 @@ measurement measured_run(const std::filesystem::path& program,
   return {milliseconds, static_cast<double>(end.usage.ru_maxrss) / 1024};
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <stdexcept>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 struct measurement {
   // From before the process exists until it has ended.
@@ -33,4 +35,4 @@ void end_runs_at_interrupt();
 // reports nothing wrong with what was typed.
 measurement measured_run(const std::filesystem::path& program, const std::filesystem::path& folder);
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -8,7 +8,7 @@
 
 #include "bench/irregular_numbers.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -124,4 +124,4 @@ void write_case(const session_case& timed, const std::filesystem::path& folder) 
   write_file(folder / session_file, timed, write_session);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

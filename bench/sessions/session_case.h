@@ -5,7 +5,9 @@
 #include <span>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 enum class arrangement {
   none,
@@ -40,4 +42,4 @@ inline constexpr const char* session_file = "session";
 // Writes both.
 void write_case(const session_case& timed, const std::filesystem::path& folder);
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -86,7 +86,7 @@ struct series {
   std::vector<double> milliseconds;
   double peak = 0;
 
-  void add(const zep::measurement& run) {
+  void add(const zep::tests::measurement& run) {
     milliseconds.push_back(run.milliseconds);
     peak = std::max(peak, run.megabytes);
   }
@@ -120,16 +120,16 @@ void print_results(const std::vector<series>& results) {
   std::cout << "\n";
 }
 
-std::vector<series> alternating_runs(const zep::session_case& timed, const options& chosen) {
-  const zep::temporary_folder folder;
-  zep::write_case(timed, folder.path());
+std::vector<series> alternating_runs(const zep::tests::session_case& timed, const options& chosen) {
+  const zep::tests::temporary_folder folder;
+  zep::tests::write_case(timed, folder.path());
   std::vector<series> results(chosen.programs.size());
   for (int run = 0; run < chosen.runs; ++run) {
     for (std::size_t i = 0; i < results.size(); ++i) {
       try {
-        results[i].add(zep::measured_run(chosen.programs[i], folder.path()));
-      } catch (const zep::failed_run& failure) {
-        throw zep::failed_run(chosen.programs[i].string() + ": " + failure.what());
+        results[i].add(zep::tests::measured_run(chosen.programs[i], folder.path()));
+      } catch (const zep::tests::failed_run& failure) {
+        throw zep::tests::failed_run(chosen.programs[i].string() + ": " + failure.what());
       }
     }
   }
@@ -137,20 +137,20 @@ std::vector<series> alternating_runs(const zep::session_case& timed, const optio
 }
 
 // True unless a run failed.
-bool time_case(const zep::session_case& timed, const options& chosen) {
+bool time_case(const zep::tests::session_case& timed, const options& chosen) {
   std::cout << std::left << std::setw(name_width) << name_of(timed) << std::right << std::flush;
   try {
     print_results(alternating_runs(timed, chosen));
     return true;
-  } catch (const zep::failed_run& failure) {
+  } catch (const zep::tests::failed_run& failure) {
     std::cout << " failed: " << failure.what() << "\n";
     return false;
   }
 }
 
-std::vector<zep::session_case> chosen_cases(const options& chosen) {
-  std::vector<zep::session_case> cases;
-  for (const zep::session_case& timed : zep::session_cases()) {
+std::vector<zep::tests::session_case> chosen_cases(const options& chosen) {
+  std::vector<zep::tests::session_case> cases;
+  for (const zep::tests::session_case& timed : zep::tests::session_cases()) {
     const bool named = name_of(timed).find(chosen.filter) != std::string::npos;
     if (named && (chosen.with_slow || !timed.slow)) cases.push_back(timed);
   }
@@ -161,10 +161,10 @@ std::vector<zep::session_case> chosen_cases(const options& chosen) {
 int carry_out(const std::vector<std::string_view>& words) {
   const options chosen = read_options(words);
   const auto cases = chosen_cases(chosen);
-  zep::end_runs_at_interrupt();
+  zep::tests::end_runs_at_interrupt();
   print_heading(chosen);
   int failures = 0;
-  for (const zep::session_case& timed : cases) {
+  for (const zep::tests::session_case& timed : cases) {
     if (!time_case(timed, chosen)) ++failures;
   }
   return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;

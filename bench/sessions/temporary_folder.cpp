@@ -5,7 +5,7 @@
 #include <string>
 #include <system_error>
 
-namespace zep {
+namespace zep::tests {
 
 temporary_folder::temporary_folder() {
   std::string name = (std::filesystem::temp_directory_path() / "zep-sessions-XXXXXX").string();
@@ -20,4 +20,4 @@ temporary_folder::~temporary_folder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -3,7 +3,9 @@
 
 #include <filesystem>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // A new folder, removed with its contents at the end.
 class temporary_folder {
@@ -19,4 +21,4 @@ class temporary_folder {
   std::filesystem::path path_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -14,7 +14,7 @@
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 bool is_empty(const Fp8::table& table) {
@@ -359,4 +359,4 @@ TEST(Fp8, IsZeroWhenNothingCouldBeRead) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

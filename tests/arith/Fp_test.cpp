@@ -16,7 +16,7 @@
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // Taken before any test changes it.
@@ -385,4 +385,4 @@ TEST(FpDeathTest, ReadingADenominatorThatDividesZeroEndsTheProcess) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

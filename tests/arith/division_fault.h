@@ -5,7 +5,9 @@
 
 #include <iostream>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Death tests see standard error only: makes the two streams change places before `action` runs.
 template <class Action>
@@ -22,4 +24,4 @@ void expect_division_fault(const std::string& field, Action action) {
               testing::Eq("\n" + field + ": division by zero\n"));
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -7,13 +7,13 @@
 #include <utility>
 #include <vector>
 
-#include "arith/mmm.h"
+#include "arith/candidate.h"
 #include "tests/arith/power_product.h"
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 monom X() { return power_product({1, 0, 0}); }
@@ -200,4 +200,4 @@ TEST(List, MinDelAgreesWithASearchThroughAVector) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -12,7 +12,7 @@
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 std::string file_form(const monom& m) {
@@ -334,4 +334,4 @@ TEST(Monom, VariableIsAffineOrProjectiveAsTheRing) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

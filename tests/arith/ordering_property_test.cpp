@@ -8,7 +8,7 @@
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // A list of numbers that sorts as the monomial does.
@@ -129,4 +129,4 @@ TEST(OrderingProperty, DivisibilityMeansAQuotientWithoutNegativeExponents) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

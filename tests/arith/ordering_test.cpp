@@ -5,7 +5,7 @@
 #include "tests/arith/power_product.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // Taken before any test changes them.
@@ -225,4 +225,4 @@ TEST(Ordering, DivisibilityLooksAtTheSlotsOfTheFirstMonomial) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

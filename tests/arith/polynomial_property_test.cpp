@@ -10,7 +10,7 @@
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // A polynomial as a table of its non-zero coefficients.
@@ -209,4 +209,4 @@ TEST(PolynomialProperty, OrderIsThatOfTheLeadingMonomials) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

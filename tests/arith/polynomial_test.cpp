@@ -6,7 +6,7 @@
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 monom X() { return power_product({1, 0, 0}); }
@@ -318,4 +318,4 @@ TEST(Polynomial, HomOfZeroIsAProjectiveZero) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

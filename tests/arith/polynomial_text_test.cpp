@@ -4,14 +4,14 @@
 #include <sstream>
 #include <string>
 
-#include "arith/output.h"
 #include "arith/polynomial.h"
+#include "base/output.h"
 #include "tests/arith/power_product.h"
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 monom X() { return power_product({1, 0, 0}); }
@@ -173,4 +173,4 @@ TEST(PolynomialText, WidthsAreThoseOfThePrintedTerms) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -7,7 +7,7 @@
 #include "arith/polynomial.h"
 #include "arith/ring.h"
 
-namespace zep {
+namespace zep::tests {
 
 // X^2YZ^3 is power_product({2, 1, 3}).
 inline monom power_product(std::initializer_list<int> exponents) {
@@ -39,4 +39,4 @@ inline polynomial sum_of(std::initializer_list<term_data> terms) {
   return {std::move(monoms), std::move(coefs)};
 }
 
-}  // namespace zep
+}  // namespace zep::tests

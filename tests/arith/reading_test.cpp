@@ -11,7 +11,7 @@
 #include "tests/arith/division_fault.h"
 #include "tests/draw.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 enum class outcome { number, malformed, ended };
@@ -227,4 +227,4 @@ TEST(Reading, MissingIntegerIsTheEndOfTheInput) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -8,7 +8,7 @@
 
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // Taken before any test changes them.
@@ -80,4 +80,4 @@ TEST(Ring, RaisedDimRestoresWhenAnExceptionPasses) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -9,7 +9,9 @@
 #include <sstream>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // A name for a file that is removed at the end.
 class file_name {
@@ -34,4 +36,4 @@ class file_name {
   std::filesystem::path path_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

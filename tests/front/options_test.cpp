@@ -7,7 +7,7 @@
 
 #include "tests/captured.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 command_line read(std::vector<std::string> words) {
@@ -73,4 +73,4 @@ TEST(Options, EndTheProgramWhereNothingIsLeftToDo) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -4,7 +4,7 @@
 
 #include "tests/front/transcript.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 const std::string settings =
@@ -120,7 +120,7 @@ TEST(Parser, EveryBeginningOfASessionEndsInOrder) {
       "gbasis D\nlingenpos D\nhelp\nnonsense\nlist\nquit\n";
   for (std::size_t length = 0; length <= session.size(); ++length) {
     std::istringstream keyboard(session.substr(0, length));
-    zep::session z(keyboard);
+    zep::tests::session z(keyboard);
     set_defaults(z);
     const captured out(std::cout);
     const captured err(std::cerr);
@@ -135,4 +135,4 @@ TEST(Parser, AVeryLongLineIsReportedWhole) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -5,11 +5,11 @@
 #include <sstream>
 #include <string>
 
+#include "front/commands/settings.h"
 #include "front/parser.h"
-#include "front/settings.h"
 #include "tests/captured.h"
 
-namespace zep {
+namespace zep::tests {
 
 // The separator line.
 inline const std::string line = std::string(79, '-') + "\n";
@@ -31,4 +31,4 @@ inline transcript type_in(const std::string& typed) {
   return {out.text(), err.text()};
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -85,7 +85,7 @@ bool may_take_long(std::string_view text) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     const int number = largest_number(words[i]);
     if (number <= limit || is_coordinate(words, i)) continue;
-    if (number > zep::largest_prime || !is_characteristic(words, i)) return true;
+    if (number > zep::tests::largest_prime || !is_characteristic(words, i)) return true;
   }
   return false;
 }
@@ -93,9 +93,9 @@ bool may_take_long(std::string_view text) {
 // Point files that the input may name, one letter each. The fuzzer learns from the other target how
 // files go wrong.
 void put_point_files() {
-  zep::put_file("p", "3 4\n1 0 0\n1 1 0\n1 0 1\n1 2/3 3\n");
-  zep::put_file("q", "4 5\n1 0 0 0\n1 1 0 0\n1 0 1 0\n1 0 0 1\n1 3 7 11\n");
-  zep::put_file("r", "4 3\n1 0 0 0\n0 1 1 1\n1 1 1 o");
+  zep::tests::put_file("p", "3 4\n1 0 0\n1 1 0\n1 0 1\n1 2/3 3\n");
+  zep::tests::put_file("q", "4 5\n1 0 0 0\n1 1 0 0\n1 0 1 0\n1 0 0 1\n1 3 7 11\n");
+  zep::tests::put_file("r", "4 3\n1 0 0 0\n0 1 1 1\n1 1 1 o");
 }
 
 }  // namespace
@@ -103,9 +103,9 @@ void put_point_files() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string typed(data, data + size);
   if (may_take_long(typed)) return -1;  // not worth keeping
-  zep::start_afresh();
+  zep::tests::start_afresh();
   put_point_files();
   std::istringstream keyboard(typed);
-  zep::in_sandbox([&] { zep::run_program(keyboard); });
+  zep::tests::in_sandbox([&] { zep::tests::run_program(keyboard); });
   return 0;
 }

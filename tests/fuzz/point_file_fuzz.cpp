@@ -12,7 +12,7 @@
 #include "arith/Fp8.h"
 #include "arith/ring.h"
 #include "front/parser.h"
-#include "front/session.h"
+#include "front/session/session.h"
 #include "tests/fuzz/sandbox.h"
 
 namespace {
@@ -22,9 +22,9 @@ struct ring {
   int dimension;
 
   void put_in_force() const {
-    zep::Fp8::prime = characteristic;
-    zep::Fp8::init();
-    zep::set_dimension(dimension);
+    zep::tests::Fp8::prime = characteristic;
+    zep::tests::Fp8::init();
+    zep::tests::set_dimension(dimension);
   }
 };
 
@@ -37,18 +37,18 @@ const ring& chosen_by(std::uint8_t byte) {
   return rings[(byte + rings.size() - '0' % rings.size()) % rings.size()];
 }
 
-void expect_equal_copy(const zep::session& z) {
+void expect_equal_copy(const zep::tests::session& z) {
   const int original = z.var.find("A");
-  if (original == zep::unknown_identifier) return;
+  if (original == zep::tests::unknown_identifier) return;
   const int copy = z.var.find("B");
-  if (copy == zep::unknown_identifier) std::abort();
+  if (copy == zep::tests::unknown_identifier) std::abort();
   if (!(z.var.object(original).P == z.var.object(copy).P)) std::abort();
 }
 
 void read_write_and_read() {
   std::istringstream keyboard("scheme A points\n putscheme A copy\n scheme B copy\n A\n");
-  zep::session z(keyboard);
-  zep::parser(z);
+  zep::tests::session z(keyboard);
+  zep::tests::parser(z);
   expect_equal_copy(z);
 }
 
@@ -57,9 +57,9 @@ void read_write_and_read() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const std::uint8_t* const last = data + size - 1;
-  zep::start_afresh();
+  zep::tests::start_afresh();
   chosen_by(*last).put_in_force();
-  zep::put_file("points", std::string(data, last));
-  zep::in_sandbox(read_write_and_read);
+  zep::tests::put_file("points", std::string(data, last));
+  zep::tests::in_sandbox(read_write_and_read);
   return 0;
 }

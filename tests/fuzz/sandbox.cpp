@@ -1,4 +1,4 @@
-// Stands in for arith/division_by_zero.cpp and front/open_file.cpp: the linker takes these
+// Stands in for arith/division_by_zero.cpp and front/files/open_file.cpp: the linker takes these
 // definitions and leaves those of the libraries out.
 #include "tests/fuzz/sandbox.h"
 
@@ -16,12 +16,12 @@
 #include "arith/Fp8.h"
 #include "arith/division_by_zero.h"
 #include "arith/ordering.h"
-#include "arith/output.h"
 #include "arith/ring.h"
-#include "front/files.h"
-#include "scheme/progress.h"
+#include "base/output.h"
+#include "base/reporter.h"
+#include "front/files/files.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -97,17 +97,25 @@ void start_afresh() {
   std::cerr.clear();
 }
 
-void division_by_zero(std::string_view /*field*/) { throw division_fault(); }
+}  // namespace zep::tests
+
+namespace zep::arith {
+
+void division_by_zero(std::string_view /*field*/) { throw tests::division_fault(); }
+
+}  // namespace zep::arith
+
+namespace zep::front {
 
 int open_result(const std::string& name, existing_contents existing) {
-  const std::string path = created(name);
+  const std::string path = tests::created(name);
   const int position = existing == existing_contents::drop ? O_TRUNC : O_APPEND;
   return path.empty() ? -1 : ::open(path.c_str(), O_WRONLY | O_CLOEXEC | position);
 }
 
 int open_source(const std::string& name) {
-  const auto file = files().find(name);
-  return file == files().end() ? -1 : ::open(path_of(file->second).c_str(), O_RDONLY | O_CLOEXEC);
+  const auto file = tests::files().find(name);
+  return file == tests::files().end() ? -1 : ::open(tests::path_of(file->second).c_str(), O_RDONLY | O_CLOEXEC);
 }
 
-}  // namespace zep
+}  // namespace zep::front

@@ -8,7 +8,9 @@
 #include <streambuf>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Takes the place of the program's end at a division by zero.
 struct division_fault {};
@@ -54,4 +56,4 @@ void in_sandbox(Action action) {
   }
 }
 
-}  // namespace zep
+}  // namespace zep::tests

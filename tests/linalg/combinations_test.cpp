@@ -6,13 +6,13 @@
 #include <random>
 #include <vector>
 
-#include "arith/index.h"
-#include "linalg/bounds.h"
+#include "base/index.h"
+#include "linalg/kernels/bounds.h"
 #include "tests/draw.h"
 #include "tests/linalg/variant_in_force.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using row = std::vector<Fp8>;
@@ -151,4 +151,4 @@ TEST_P(Combinations, UseAsManyCoefficientsOfAMatrixAsThereAreRows) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

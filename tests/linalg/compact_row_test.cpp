@@ -5,11 +5,11 @@
 #include <optional>
 #include <random>
 
-#include "arith/index.h"
+#include "base/index.h"
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using row = std::vector<Fp8>;
@@ -161,4 +161,4 @@ TEST(Triangulate, OfNothingIsNothing) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

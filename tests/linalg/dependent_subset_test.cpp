@@ -7,12 +7,12 @@
 #include <random>
 #include <vector>
 
-#include "arith/index.h"
+#include "base/index.h"
 #include "tests/draw.h"
 #include "tests/plain_echelon.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using subset = std::vector<int>;
@@ -208,4 +208,4 @@ TEST(DependentSubset, TakesAllRowsTogether) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

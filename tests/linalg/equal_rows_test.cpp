@@ -12,7 +12,7 @@
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using pair_of_rows = std::optional<std::pair<int, int>>;
@@ -134,4 +134,4 @@ TEST(EqualRows, RemovingTheFirstPairAgainAndAgainEndsWithDifferentRows) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -7,7 +7,7 @@
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using row = std::vector<Fp8>;
@@ -43,4 +43,4 @@ TEST(FirstNonzero, SeesEveryBit) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

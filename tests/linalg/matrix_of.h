@@ -5,7 +5,7 @@
 
 #include "linalg/matrix.h"
 
-namespace zep {
+namespace zep::tests {
 
 // The matrix with these rows, all of one length.
 inline matrix matrix_of(std::initializer_list<std::initializer_list<int>> rows) {
@@ -19,4 +19,4 @@ inline matrix matrix_of(std::initializer_list<std::initializer_list<int>> rows) 
   return m;
 }
 
-}  // namespace zep
+}  // namespace zep::tests

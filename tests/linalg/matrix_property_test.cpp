@@ -10,7 +10,7 @@
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using order = std::vector<int>;
@@ -327,4 +327,4 @@ TEST(MatrixProperty, NothingBreaksInACompositeCharacteristic) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

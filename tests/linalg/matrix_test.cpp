@@ -11,7 +11,7 @@
 #include "tests/ring_in_force.h"
 #include "tests/text_of.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using order = std::vector<int>;
@@ -295,4 +295,4 @@ TEST(Matrix, ReadingTooFewNumbersMeetsTheEnd) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -9,7 +9,7 @@
 #include "tests/linalg/variant_in_force.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 using row = std::vector<Fp8>;
@@ -203,4 +203,4 @@ TEST_P(RowOperations, DotIsExactWhereItsSumsAreLargest) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

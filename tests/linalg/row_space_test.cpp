@@ -8,7 +8,7 @@
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // Rows of a matrix of the given rank at most, as sums of few rows.
@@ -126,4 +126,4 @@ TEST(RowSpace, StandsForAllRowsInSolve) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -7,9 +7,9 @@
 #include <cctype>
 #include <string>
 
-#include "linalg/row_kernels.h"
+#include "linalg/kernels/row_kernels.h"
 
-namespace zep {
+namespace zep::tests {
 
 // A test of it, instantiated with runnable_kernels(), runs with each variant in force.
 class variant_in_force : public testing::TestWithParam<const row_kernels*> {
@@ -24,4 +24,4 @@ inline std::string name_of_variant(const testing::TestParamInfo<const row_kernel
   return name;
 }
 
-}  // namespace zep
+}  // namespace zep::tests

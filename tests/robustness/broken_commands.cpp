@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "arith/index.h"
-#include "front/command.h"
+#include "base/index.h"
+#include "front/commands/command.h"
 #include "tests/robustness/working_folder.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -114,4 +114,4 @@ void long_words(session_draft& s) {
   s.end_line();
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -3,7 +3,7 @@
 
 #include "tests/robustness/session_draft.h"
 
-namespace zep {
+namespace zep::tests {
 
 // A command that is misspelt, or whose arguments are missing, unknown or bad.
 void broken_command(session_draft& s);
@@ -14,4 +14,4 @@ void garbage(session_draft& s);
 // A word or a line that never seems to end.
 void long_words(session_draft& s);
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -3,12 +3,12 @@
 #include <iostream>
 #include <sstream>
 
-#include "arith/index.h"
-#include "front/command.h"
-#include "front/execution.h"
-#include "front/settings.h"
+#include "base/index.h"
+#include "front/commands/command.h"
+#include "front/commands/execution.h"
+#include "front/commands/settings.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -67,4 +67,4 @@ std::string missing_commands(const command_set& commands) {
   return names;
 }
 
-}  // namespace zep
+}  // namespace zep::tests

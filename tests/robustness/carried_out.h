@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Whether a command is in it, by its number.
 using command_set = std::vector<bool>;
@@ -19,4 +21,4 @@ void add_announced(const std::string& out, command_set& commands);
 // Names of the commands that are missing, with blanks between them.
 std::string missing_commands(const command_set& commands);
 
-}  // namespace zep
+}  // namespace zep::tests

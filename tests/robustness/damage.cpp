@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <string_view>
 
-#include "arith/index.h"
-#include "front/identifiers.h"
+#include "base/index.h"
+#include "front/session/identifiers.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -56,4 +56,4 @@ void keep_to_the_folder(std::string& text) {
   }
 }
 
-}  // namespace zep
+}  // namespace zep::tests

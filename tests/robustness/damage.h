@@ -5,7 +5,7 @@
 
 #include "tests/robustness/dice.h"
 
-namespace zep {
+namespace zep::tests {
 
 // Some bytes are changed. Numbers stay whole, for a count that is too large to be accepted has
 // parts that are accepted and take minutes.
@@ -18,4 +18,4 @@ void cut(dice& d, std::string& text);
 // is as long as names can be.
 void keep_to_the_folder(std::string& text);
 
-}  // namespace zep
+}  // namespace zep::tests

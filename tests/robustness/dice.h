@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <random>
 
-#include "arith/index.h"
+#include "base/index.h"
 #include "tests/draw.h"
 
-namespace zep {
+namespace zep::tests {
 
 class dice {
  public:
@@ -30,4 +30,4 @@ class dice {
   std::mt19937 random_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -17,13 +17,13 @@
 #include <string_view>
 #include <system_error>
 
-#include "arith/output.h"
-#include "front/memory.h"
-#include "front/process.h"
+#include "base/output.h"
+#include "front/process/memory.h"
+#include "front/process/process.h"
 #include "front/program.h"
 #include "tests/robustness/working_folder.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -138,4 +138,4 @@ bool ends_with_farewell(const std::string& out) {
   return std::string_view(out).ends_with(Line + "thanks for using ZEP\n" + Line);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -5,7 +5,9 @@
 #include <functional>
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 struct outcome {
   // As waitpid tells it.
@@ -29,4 +31,4 @@ std::string fault_of(const outcome& run);
 // True if the text ends with the farewell.
 bool ends_with_farewell(const std::string& out);
 
-}  // namespace zep
+}  // namespace zep::tests

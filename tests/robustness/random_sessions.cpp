@@ -7,7 +7,7 @@
 #include "tests/robustness/session_draft.h"
 #include "tests/robustness/typed_commands.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -52,4 +52,4 @@ std::string random_session(unsigned seed) {
   return s.text;
 }
 
-}  // namespace zep
+}  // namespace zep::tests

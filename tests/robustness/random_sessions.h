@@ -3,7 +3,9 @@
 
 #include <string>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Session number `seed`: up to 60 commands, all kinds of arguments for them, good and broken ways
 // to enter points, odd bytes, and ends where nobody expects them. What it computes is small. Its
@@ -11,4 +13,4 @@ namespace zep {
 // folder.
 std::string random_session(unsigned seed);
 
-}  // namespace zep
+}  // namespace zep::tests

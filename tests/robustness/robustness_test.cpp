@@ -12,7 +12,7 @@
 #include <system_error>
 #include <vector>
 
-#include "front/command.h"
+#include "front/commands/command.h"
 #include "front/program.h"
 #include "tests/captured.h"
 #include "tests/robustness/carried_out.h"
@@ -20,7 +20,7 @@
 #include "tests/robustness/random_sessions.h"
 #include "tests/robustness/working_folder.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // Makes the folder with the point files the current one while it lives.
@@ -146,4 +146,4 @@ TEST(ForkedRun, FindsLeaks) {
 #endif
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

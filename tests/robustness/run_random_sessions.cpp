@@ -51,10 +51,10 @@ void show(const char* what, std::string_view text) {
 class tester {
  public:
   bool passes(unsigned seed) {
-    const std::string session = zep::random_session(seed);
-    const zep::outcome run = zep::run_session(scratch_.path(), session);
+    const std::string session = zep::tests::random_session(seed);
+    const zep::tests::outcome run = zep::tests::run_session(scratch_.path(), session);
     if (WIFEXITED(run.status) && WEXITSTATUS(run.status) == 1) ++divisions_by_zero_;
-    std::string fault = zep::fault_of(run);
+    std::string fault = zep::tests::fault_of(run);
     if (fault.empty() && seed % repeated_each == 0) fault = difference_of_second_run(session, run);
     if (fault.empty()) return true;
     report(seed, fault, session, run);
@@ -64,15 +64,16 @@ class tester {
   int divisions_by_zero() const { return divisions_by_zero_; }
 
  private:
-  std::string difference_of_second_run(const std::string& session, const zep::outcome& first) {
-    const zep::outcome second = zep::run_session(scratch_.path(), session);
+  std::string difference_of_second_run(const std::string& session,
+                                       const zep::tests::outcome& first) {
+    const zep::tests::outcome second = zep::tests::run_session(scratch_.path(), session);
     const bool same =
         second.status == first.status && second.out == first.out && second.err == first.err;
     return same ? "" : "the second run differs";
   }
 
   static void report(unsigned seed, const std::string& fault, const std::string& session,
-                     const zep::outcome& run) {
+                     const zep::tests::outcome& run) {
     std::cout << "session " << seed << ": " << fault << "\n"
               << "alone: run_random_sessions " << seed << " " << seed << "\n"
               << "in the program: run_random_sessions --into FOLDER " << seed
@@ -82,7 +83,7 @@ class tester {
     show("standard error", run.err);
   }
 
-  zep::scratch_folder scratch_;
+  zep::tests::scratch_folder scratch_;
   int divisions_by_zero_ = 0;
 };
 
@@ -99,8 +100,8 @@ int run_all(unsigned from, unsigned to) {
 
 void put_into(const std::filesystem::path& folder, unsigned seed) {
   if (std::filesystem::exists(folder)) throw std::runtime_error("there is such a folder");
-  zep::fill_working_folder(folder);
-  std::ofstream(folder / "session.zep", std::ios::binary) << zep::random_session(seed);
+  zep::tests::fill_working_folder(folder);
+  std::ofstream(folder / "session.zep", std::ios::binary) << zep::tests::random_session(seed);
 }
 
 unsigned number(const std::string& text) { return static_cast<unsigned>(std::stoul(text)); }

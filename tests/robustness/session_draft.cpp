@@ -6,7 +6,7 @@
 
 #include "tests/robustness/working_folder.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -110,4 +110,4 @@ std::string_view session_draft::filename_to_write(std::string_view set_name) {
   return is_large(set_name) ? d.pick(large_results) : d.pick(small_results);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

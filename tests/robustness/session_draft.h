@@ -8,7 +8,7 @@
 #include "tests/robustness/dice.h"
 #include "tests/robustness/typed_points.h"
 
-namespace zep {
+namespace zep::tests {
 
 // How far the space grows in a session.
 enum class extent { low, middle, wide };
@@ -50,4 +50,4 @@ struct session_draft {
   int names = 27;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -6,11 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "arith/index.h"
-#include "front/command.h"
+#include "base/index.h"
+#include "front/commands/command.h"
 #include "tests/robustness/typed_points.h"
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -222,4 +222,4 @@ void fill_the_table(session_draft& s) {
   for (int i = 0; i < 5; ++i) any_command(s);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -3,7 +3,7 @@
 
 #include "tests/robustness/session_draft.h"
 
-namespace zep {
+namespace zep::tests {
 
 // Any command of the table, with a set of the session where it wants one.
 void any_command(session_draft& s);
@@ -16,4 +16,4 @@ void identifier_alone(session_draft& s);
 // More sets than there is room for, and some commands behind them.
 void fill_the_table(session_draft& s);
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -100,4 +100,4 @@ std::string broken_points(dice& d, const typed_space& space, int count) {
   return joined(d, space, points);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -5,7 +5,7 @@
 
 #include "tests/robustness/dice.h"
 
-namespace zep {
+namespace zep::tests {
 
 // What the points depend on.
 struct typed_space {
@@ -21,4 +21,4 @@ std::string typed_points(dice& d, const typed_space& space, int count);
 // The same with something in it that is no number, or with too few points or too many.
 std::string broken_points(dice& d, const typed_space& space, int count);
 
-}  // namespace zep
+}  // namespace zep::tests

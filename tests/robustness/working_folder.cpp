@@ -7,7 +7,7 @@
 #include <string_view>
 #include <system_error>
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -63,4 +63,4 @@ scratch_folder::~scratch_folder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -4,7 +4,9 @@
 #include <array>
 #include <filesystem>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Point files of every kind, and names that are no files.
 namespace point_file {
@@ -40,4 +42,4 @@ class scratch_folder {
   std::filesystem::path path_;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

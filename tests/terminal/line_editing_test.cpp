@@ -7,7 +7,7 @@
 
 #include "tests/terminal/terminal.h"
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 // What only line editing does.
@@ -242,4 +242,4 @@ TEST_P(LineEditing, KnowsTheWidthOfTheTerminal) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -12,7 +12,7 @@
 #include <system_error>
 #include <thread>
 
-namespace zep {
+namespace zep::tests {
 
 namespace {
 
@@ -97,4 +97,4 @@ std::optional<int> pseudo_terminal::exit_status() {
   return std::nullopt;
 }
 
-}  // namespace zep
+}  // namespace zep::tests

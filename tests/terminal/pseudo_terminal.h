@@ -7,7 +7,9 @@
 #include <string>
 #include <vector>
 
-namespace zep {
+#include "base/floors.h"
+
+namespace zep::tests {
 
 // Runs a program on a pseudo-terminal, types for it, and sees what it shows.
 class pseudo_terminal {
@@ -45,4 +47,4 @@ class pseudo_terminal {
   std::size_t seen_ = 0;
 };
 
-}  // namespace zep
+}  // namespace zep::tests

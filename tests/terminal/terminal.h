@@ -8,7 +8,7 @@
 
 #include "tests/terminal/pseudo_terminal.h"
 
-namespace zep {
+namespace zep::tests {
 
 inline const std::string backspace = "\x7f";
 inline const std::string ctrl_c = "\x03";
@@ -65,4 +65,4 @@ constexpr int many_points = 2000;
 constexpr int alpha_of_many = 21;
 #endif
 
-}  // namespace zep
+}  // namespace zep::tests

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <string>
 
-namespace zep {
+namespace zep::tests {
 namespace {
 
 INSTANTIATE_TEST_SUITE_P(Every, Terminal, testing::Values(ZEP_PROGRAM, ZEP_PLAIN_PROGRAM),
@@ -151,4 +151,4 @@ TEST_P(Terminal, IsLoggedWithWhatIsTyped) {
 }
 
 }  // namespace
-}  // namespace zep
+}  // namespace zep::tests

@@ -1,0 +1,18 @@
+#include <benchmark/benchmark.h>
+
+#include "bench/points/after_bu_mo.h"
+#include "points/walk/separators.h"
+
+namespace zep::tests {
+namespace {
+
+BENCHMARK(bench_after_bu_mo<sep>)
+    ->Name("sep")
+    ->ArgNames({"points", "n"})
+    ->Args({100, 3})
+    ->Args({300, 3})
+    ->Args({1000, 3})
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zep::tests

@@ -1,0 +1,131 @@
+#include "points/module/generator_elimination.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "arith/ring.h"
+#include "base/index.h"
+#include "base/interrupt.h"
+#include "linalg/row_operations.h"
+
+namespace zep::points {
+
+namespace {
+
+int leads(const syzygies_of_degree& S) { return static_cast<int>(S.leading.size()); }
+
+syzygies_of_degree rewritten(const dual_module& W, int d, std::vector<int> leading) {
+  const int n = static_cast<int>(leading.size());
+  syzygies_of_degree S{d, std::move(leading), matrix(n + W.no_of_members(), n)};
+  for (int r = 0; r < n; ++r) {
+    S.coefs[r][r] = 1;
+    const std::vector<Fp8> form = W.canonical_form(S.leading[at(r)], W.no_of_members());
+    axpy(S.coefs[r] + n, form.data(), -Fp8(1), form.size());
+  }
+  return S;
+}
+
+// Makes entry (r, column) 1 and the other entries of the column 0.
+void clear_column(matrix& m, int r, int column) {
+  const auto n = static_cast<std::size_t>(m.cols());
+  scale(m[r], Fp8(1) / m[r][column], n);
+  for (int i = 0; i < m.rows(); ++i) {
+    if (i != r) axpy(m[i], m[r], -m[i][column], n);
+  }
+}
+
+}  // namespace
+
+std::vector<syzygies_of_degree> rewritten_syzygies(const dual_module& W,
+                                                   const std::vector<int>& leading) {
+  std::vector<syzygies_of_degree> all;
+  for (int d = W.top_degree(); d >= -1; --d) {
+    std::vector<int> of_degree;
+    std::copy_if(leading.begin(), leading.end(), std::back_inserter(of_degree),
+                 [&](int b) { return W.degree(b) == d; });
+    if (!of_degree.empty()) all.push_back(rewritten(W, d, std::move(of_degree)));
+  }
+  return all;
+}
+
+generator_elimination::generator_elimination(const dual_module& W)
+    : W_(W),
+      eliminated_(at(W.no_of_candidates())),
+      expression_(at(W.no_of_candidates()), polynomial_row(W.no_of_candidates())) {}
+
+std::vector<polynomial_row> generator_elimination::eliminate(syzygies_of_degree S) {
+  const int n = S.coefs.rows();
+  std::vector<int> eliminates(at(n), -1);
+  for (int r = 0; r < n; ++r) {
+    heed_interrupt();
+    const int a = constant_at(S, r);
+    if (a < 0) continue;
+    clear_column(S.coefs, r, leads(S) + W_.candidate(a));
+    eliminates[at(r)] = a;
+  }
+  const raised_dim projective;
+  std::vector<polynomial_row> columns;
+  for (int r = 0; r < n; ++r) {
+    const int a = eliminates[at(r)];
+    polynomial_row rest = column(S, r, a);
+    if (a < 0) {
+      columns.push_back(std::move(rest));
+    } else {
+      rest *= -Fp8(1);
+      expression_[at(a)] = std::move(rest);
+    }
+  }
+  for (const int a : eliminates) {
+    if (a >= 0) eliminated_[at(a)] = true;
+  }
+  return columns;
+}
+
+// The first candidate at which row r has a constant that is a unit, or -1.
+int generator_elimination::constant_at(const syzygies_of_degree& S, int r) const {
+  for (int a = 0; a < W_.no_of_candidates(); ++a) {
+    const int i = W_.candidate(a);
+    if (i < W_.begin(S.degree) || i >= W_.begin(S.degree + 1)) continue;
+    if (Fp8(1) / S.coefs[r][leads(S) + i] != 0) return a;
+  }
+  return -1;
+}
+
+// Row r without the term of the candidate that is left out (none if -1).
+polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
+                                             int left_out) const {
+  const Fp8* const row = S.coefs[r];
+  std::vector<polynomial_row::term> sum;
+  for (int k = 0; k < leads(S); ++k) {
+    if (row[k] == 0) continue;
+    heed_interrupt();
+    const auto& [exponent, owner, member, v] = W_.border(S.leading[at(k)]);
+    add_multiple(sum, W_.factor(member) * variable(v), owner, row[k]);
+  }
+  for (int i = W_.begin(S.degree); i < W_.no_of_members(); ++i) {
+    const Fp8 c = row[leads(S) + i];
+    if (c == 0) continue;
+    heed_interrupt();
+    const int a = W_.owner(i);
+    if (a == left_out && i == W_.candidate(a)) continue;
+    monom factor = W_.factor(i);
+    factor.set_exp(proj - 1, W_.degree_of_member(i) - S.degree);
+    add_multiple(sum, factor, a, c);
+  }
+  return {W_.no_of_candidates(), sum};
+}
+
+// Adds c * factor * candidate.
+void generator_elimination::add_multiple(std::vector<polynomial_row::term>& sum,
+                                         const monom& factor, int candidate, Fp8 c) const {
+  if (!is_eliminated(candidate)) {
+    sum.push_back({factor, candidate, c});
+    return;
+  }
+  for (const polynomial_row::term& t : expression_[at(candidate)].terms()) {
+    sum.push_back({factor * t.m, t.column, c * t.c});
+  }
+}
+
+}  // namespace zep::points

@@ -1,0 +1,142 @@
+#include "points/module/polynomial_rows.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <utility>
+
+#include "arith/ordering.h"
+#include "base/interrupt.h"
+#include "points/strand/form_vectors.h"
+
+namespace zep::points {
+
+namespace {
+
+using term = polynomial_row::term;
+
+bool precedes(const term& a, const term& b) { return monom_ordering_lt(b.m, a.m); }
+
+// The terms column by column, those of a column as they stood.
+std::vector<term> by_column(int cols, const std::vector<term>& terms) {
+  std::vector<std::size_t> end(at(cols) + 1);
+  for (const term& t : terms) ++end[at(t.column) + 1];
+  std::partial_sum(end.begin(), end.end(), end.begin());
+  std::vector<term> sorted(terms.size());
+  for (const term& t : terms) sorted[end[at(t.column)]++] = t;
+  return sorted;
+}
+
+using position = std::vector<term>::iterator;
+
+position end_of_column(position first, position last) {
+  return std::find_if(first, last, [&](const term& t) { return t.column != first->column; });
+}
+
+// Puts the sum of terms of one column in front of them; returns its end.
+position sum_up(position first, position last) {
+  // Terms are mostly made in order, so looking is cheaper than sorting.
+  if (!std::is_sorted(first, last, precedes)) std::sort(first, last, precedes);
+  auto summed = first;
+  while (first != last) {
+    term sum = *first++;
+    while (first != last && !precedes(sum, *first)) sum.c += (first++)->c;
+    if (sum.c != 0) *summed++ = sum;
+  }
+  return summed;
+}
+
+std::vector<term> terms_of(const std::vector<polynomial>& entries) {
+  std::vector<term> terms;
+  for (int j = 0; j < static_cast<int>(entries.size()); ++j) {
+    const polynomial& f = entries[at(j)];
+    for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
+      terms.push_back({f.term(i), j, f.coef(i)});
+    }
+  }
+  return terms;
+}
+
+// The leading coefficient of entry j, 0 for a zero entry.
+Fp8 leading_coefficient(const polynomial_row& row, int j) {
+  const term* const lead = row.leading_term(j);
+  return lead != nullptr ? lead->c : Fp8(0);
+}
+
+}  // namespace
+
+polynomial_row::polynomial_row(int cols, const std::vector<term>& terms)
+    : cols_(cols), terms_(by_column(cols, terms)) {
+  auto kept = terms_.begin();
+  for (auto column = terms_.begin(); column != terms_.end();) {
+    heed_interrupt();
+    const auto end = end_of_column(column, terms_.end());
+    kept = std::move(column, sum_up(column, end), kept);
+    column = end;
+  }
+  terms_.erase(kept, terms_.end());
+  terms_.shrink_to_fit();
+}
+
+polynomial_row::polynomial_row(const std::vector<polynomial>& entries)
+    : polynomial_row(static_cast<int>(entries.size()), terms_of(entries)) {}
+
+std::vector<polynomial> polynomial_row::entries() const {
+  std::vector<polynomial> entries(at(cols_));
+  for (auto first = terms_.begin(); first != terms_.end();) {
+    std::vector<monom> monoms;
+    std::vector<Fp8> coefs;
+    const int column = first->column;
+    for (; first != terms_.end() && first->column == column; ++first) {
+      monoms.push_back(first->m);
+      coefs.push_back(first->c);
+    }
+    entries[at(column)] = polynomial(std::move(monoms), std::move(coefs));
+  }
+  return entries;
+}
+
+polynomial polynomial_row::entry(int j) const { return entries()[at(j)]; }
+
+const polynomial_row::term* polynomial_row::leading_term(int j) const {
+  const auto lead =
+      std::find_if(terms_.begin(), terms_.end(), [j](const term& t) { return t.column == j; });
+  return lead != terms_.end() ? &*lead : nullptr;
+}
+
+void polynomial_row::operator*=(Fp8 c) {
+  for (term& t : terms_) t.c *= c;
+  std::erase_if(terms_, [](const term& t) { return t.c == 0; });
+}
+
+void polynomial_row::subtract(Fp8 c, const polynomial_row& b) {
+  std::vector<term> all = terms_;
+  for (const term& t : b.terms_) all.push_back({t.m, t.column, -(c * t.c)});
+  *this = polynomial_row(cols_, all);
+}
+
+void norm(polynomial_matrix& A, int i, int jj) {
+  polynomial_row& row = A[at(i)];
+  row *= Fp8(1) / leading_coefficient(row, jj);
+}
+
+void reduce_c(polynomial_matrix& A, int k, int i, int jj) {
+  polynomial_row& row = A[at(i)];
+  row.subtract(leading_coefficient(row, jj), A[at(k)]);
+}
+
+std::vector<int> interreduce(polynomial_matrix& A) {
+  std::vector<std::vector<polynomial>> entries;
+  entries.reserve(A.size());
+  for (const polynomial_row& row : A) entries.push_back(row.entries());
+  form_vectors vectors = vectors_of(std::move(entries), A.empty() ? 0 : A.front().cols());
+  vectors.interreduce();
+  std::vector<int> Lt;
+  for (int i = 0; i < vectors.count(); ++i) {
+    A[at(i)] = polynomial_row(vectors.components(i));
+    Lt.push_back(vectors.position(i));
+  }
+  return Lt;
+}
+
+}  // namespace zep::points

@@ -1,0 +1,154 @@
+#include "points/module/superfluous_syzygies.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "base/index.h"
+#include "base/interrupt.h"
+#include "linalg/row_operations.h"
+#include "linalg/row_space.h"
+
+namespace zep::points {
+
+namespace {
+
+using row = std::vector<Fp8>;
+
+// The border elements modulo X_0 and their degrees.
+class border_forms {
+ public:
+  explicit border_forms(const dual_module& W) : W_(W) {
+    forms_.reserve(at(W.no_of_border()));
+    for (int b = 0; b < W.no_of_border(); ++b) {
+      const row all = W.canonical_form(b, W.begin(W.degree(b) + 1));
+      forms_.emplace_back(all.begin() + W.begin(W.degree(b)), all.end());
+    }
+  }
+
+  // Calls use(coefficient, border element) for the border elements in x_v * (form of border b).
+  template <class Use>
+  void for_each_border_product(int b, int v, Use use) const {
+    const row& form = forms_[at(b)];
+    const int first = W_.begin(W_.degree(b));
+    for (std::size_t i = 0; i < form.size(); ++i) {
+      if (form[i] == 0) continue;
+      const auto [is_member, position] = W_.times(first + static_cast<int>(i), v);
+      if (!is_member) use(form[i], position);
+    }
+  }
+
+ private:
+  const dual_module& W_;
+  std::vector<row> forms_;
+};
+
+// The constants of one degree: row[i] belongs to the syzygy with leading[i], of this degree.
+class constants_of_degree {
+ public:
+  // The border elements of the degree are those from first_border to end_border.
+  constants_of_degree(const dual_module& W, const border_forms& forms,
+                      const std::vector<int>& leading, int first_border, int end_border)
+      : W_(W), forms_(forms), size_(leading.size()), first_border_(first_border) {
+    const std::size_t size = at(end_border - first_border);
+    syzygy_.assign(size, -1);
+    for (std::size_t i = 0; i < size_; ++i) {
+      syzygy_[at(leading[i] - first_border)] = static_cast<int>(i);
+    }
+    of_border_.reserve(size);
+    for (int b = first_border; b < end_border; ++b) {
+      heed_interrupt();
+      of_border_.push_back(border_row(b));
+    }
+  }
+
+  // The constants in x_w * (x_v * P) - x_v * (x_w * P), P a member that both take to the border.
+  row relation(int P, int v, int w) const {
+    row sum(size_);
+    add_products(sum, W_.times(P, v).position, w, Fp8(1));
+    add_products(sum, W_.times(P, w).position, v, -Fp8(1));
+    return sum;
+  }
+
+ private:
+  // The constants with which the syzygies express border element b minus its canonical form.
+  row border_row(int b) const {
+    row sum(size_);
+    if (const int i = syzygy_[at(b - first_border_)]; i >= 0) {
+      sum[at(i)] = 1;
+    } else if (const auto [below, v] = origin(b); below >= 0) {
+      add_products(sum, below, v, Fp8(1));
+    }
+    return sum;
+  }
+
+  // A border element and a variable whose product is border element b; -1 if there is none.
+  std::pair<int, int> origin(int b) const {
+    const auto& [exponent, owner, member, variable_taken] = W_.border(b);
+    const monom factor = W_.factor(member) * variable(variable_taken);
+    for (int v = 0; v < dim; ++v) {
+      if (factor.exp(v) == 0) continue;
+      const int below = W_.find(exponent * variable(v), owner);
+      if (below >= 0) return {below, v};
+    }
+    return {-1, -1};
+  }
+
+  // Adds c times the constants of x_v * (form of border element b).
+  void add_products(row& sum, int b, int v, Fp8 c) const {
+    forms_.for_each_border_product(b, v, [&](Fp8 coef, int position) {
+      axpy(sum.data(), of_border_[at(position - first_border_)].data(), c * coef, sum.size());
+    });
+  }
+
+  const dual_module& W_;
+  const border_forms& forms_;
+  std::size_t size_;
+  int first_border_;
+  // The syzygy that border element first_border + i leads, or -1.
+  std::vector<int> syzygy_;
+  std::vector<row> of_border_;
+};
+
+// The relations' constants in degree d.
+row_space relations_of_degree(const dual_module& W, const constants_of_degree& constants, int size,
+                              int d) {
+  row_space relations(size);
+  for (int P = W.begin(d + 2); P < W.begin(d + 3); ++P) {
+    for (int v = 0; v < dim; ++v) {
+      if (W.times(P, v).is_member) continue;
+      for (int w = v + 1; w < dim; ++w) {
+        if (W.times(P, w).is_member) continue;
+        if (relations.rank() == size) return relations;
+        relations.add(constants.relation(P, v, w));
+      }
+    }
+  }
+  return relations;
+}
+
+}  // namespace
+
+std::vector<bool> superfluous_syzygies(const dual_module& W, const std::vector<int>& leading) {
+  std::vector<bool> superfluous(leading.size());
+  const border_forms forms(W);
+  int end = 0;
+  for (int first = 0; first < W.no_of_border(); first = end) {
+    const int d = W.degree(first);
+    while (end < W.no_of_border() && W.degree(end) == d) ++end;
+    if (W.dimension(d + 2) == 0) continue;
+    std::vector<std::size_t> indices;
+    std::vector<int> of_degree;
+    for (std::size_t i = 0; i < leading.size(); ++i) {
+      if (leading[i] < first || leading[i] >= end) continue;
+      indices.push_back(i);
+      of_degree.push_back(leading[i]);
+    }
+    const constants_of_degree constants(W, forms, of_degree, first, end);
+    const row_space relations =
+        relations_of_degree(W, constants, static_cast<int>(of_degree.size()), d);
+    for (const std::size_t pivot : relations.pivots()) superfluous[indices[pivot]] = true;
+  }
+  return superfluous;
+}
+
+}  // namespace zep::points

@@ -1,0 +1,104 @@
+#include "points/strand/form_vectors.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <utility>
+
+#include "arith/ordering.h"
+#include "arith/ring.h"
+#include "base/interrupt.h"
+
+namespace zep::points {
+
+namespace {
+
+struct descending {
+  bool operator()(const monom& a, const monom& b) const { return a > b; }
+};
+
+// The monomials of the forms with their numbers.
+std::map<monom, std::uint32_t, descending> numbered_monomials(
+    const std::vector<std::vector<polynomial>>& components) {
+  std::map<monom, std::uint32_t, descending> numbers;
+  for (const std::vector<polynomial>& vector : components) {
+    heed_interrupt();
+    for (const polynomial& f : vector) {
+      for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) numbers.emplace(f.term(i), 0);
+    }
+  }
+  std::uint32_t next = 0;
+  for (auto& [m, number] : numbers) number = next++;
+  return numbers;
+}
+
+}  // namespace
+
+form_vectors::form_vectors(std::vector<monom> monomials, int rank, std::vector<compact_row> vectors)
+    : monomials_(std::move(monomials)), rank_(rank), vectors_(std::move(vectors)) {}
+
+int form_vectors::no_of_nonzero() const {
+  return static_cast<int>(std::count_if(vectors_.begin(), vectors_.end(),
+                                        [](const compact_row& v) { return !v.is_zero(); }));
+}
+
+void form_vectors::drop_zero_vectors() {
+  std::erase_if(vectors_, [](const compact_row& v) { return v.is_zero(); });
+}
+
+int form_vectors::position(int i) const {
+  const compact_row& v = vector(i);
+  return v.is_zero() ? -1 : static_cast<int>(v.pivot() % at(rank_));
+}
+
+const monom& form_vectors::leading_monomial(int i) const {
+  return monomials_[vector(i).pivot() / at(rank_)];
+}
+
+std::vector<polynomial> form_vectors::components(int i) const {
+  std::vector<std::vector<monom>> terms(at(rank_));
+  std::vector<std::vector<Fp8>> coefs(at(rank_));
+  vector(i).for_each([&](std::size_t place, Fp8 c) {
+    terms[place % at(rank_)].push_back(monomials_[place / at(rank_)]);
+    coefs[place % at(rank_)].push_back(c);
+  });
+  std::vector<polynomial> result;
+  result.reserve(at(rank_));
+  for (int k = 0; k < rank_; ++k) {
+    result.emplace_back(std::move(terms[at(k)]), std::move(coefs[at(k)]));
+  }
+  return result;
+}
+
+std::vector<monom> projective_variables() {
+  const raised_dim projective;
+  std::vector<monom> variables;
+  variables.reserve(at(dim));
+  for (int v = 0; v < dim; ++v) variables.push_back(variable(v));
+  return variables;
+}
+
+form_vectors vectors_of(std::vector<std::vector<polynomial>> components, int rank) {
+  const auto numbers = numbered_monomials(components);
+  std::vector<monom> monomials;
+  monomials.reserve(numbers.size());
+  for (const auto& [m, number] : numbers) monomials.push_back(m);
+  std::vector<compact_row> vectors;
+  vectors.reserve(components.size());
+  std::vector<Fp8> row(monomials.size() * at(rank));
+  for (std::vector<polynomial>& vector : components) {
+    heed_interrupt();
+    std::fill(row.begin(), row.end(), Fp8(0));
+    for (int k = 0; k < rank; ++k) {
+      const polynomial& f = vector[at(k)];
+      for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
+        row[numbers.at(f.term(i)) * at(rank) + at(k)] = f.coef(i);
+      }
+    }
+    vectors.emplace_back(row);
+    vector = {};
+  }
+  return {std::move(monomials), rank, std::move(vectors)};
+}
+
+}  // namespace zep::points

@@ -1,0 +1,91 @@
+#include "front/commands/command.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "base/index.h"
+#include "tests/front/transcript.h"
+#include "tests/ring_in_force.h"
+
+namespace zep::tests {
+namespace {
+
+TEST(CommandTable, IsAlphabeticalWithNamesThatFitAWord) {
+  for (std::size_t c = 0; c + 1 < command.size(); ++c) {
+    EXPECT_LT(std::string_view(command[c].name), std::string_view(command[c + 1].name));
+  }
+  for (const command_record& record : command) {
+    EXPECT_LT(std::string_view(record.name).size(), std::size_t{identifier_length});
+  }
+}
+
+TEST(CommandTable, FindsCommandsByTheirWholeName) {
+  for (int c = 0; c < no_of_commands(); ++c) EXPECT_EQ(find_command(command[at(c)].name), c);
+  EXPECT_EQ(find_command("alph"), -1);
+  EXPECT_EQ(find_command("alphas"), -1);
+  EXPECT_EQ(find_command(""), -1);
+}
+
+TEST(CommandTable, OnlyDelAndDisplayTakeAnIdentifierOfAnyType) {
+  for (const command_record& record : command) {
+    const std::string_view name = record.name;
+    EXPECT_EQ(record.kind == command_kind::any_identifier, name == "del" || name == "display")
+        << name;
+  }
+}
+
+TEST(CommandTable, CommandsWithoutIdentifierAreTheSettingsAndTheCreatingOnes) {
+  const std::string_view without[] = {"char",      "cyclotom", "cyclotom2", "cyclpol",     "deglex",
+                                      "degrevlex", "del_all",  "dim",       "display_all", "exit",
+                                      "gencycl",   "get",      "help",      "identifiers", "list",
+                                      "quiet",     "quit",     "random",    "random2",     "range",
+                                      "ring",      "root",     "scheme",    "verbose"};
+  for (const command_record& record : command) {
+    const bool listed =
+        std::find(std::begin(without), std::end(without), record.name) != std::end(without);
+    EXPECT_EQ(record.kind == command_kind::nothing, listed) << record.name;
+  }
+}
+
+TEST(Help, ListsSixNamesARowInColumnsOfThirteen) {
+  std::string expected = "% list of commands in alphabetical order :";
+  for (int c = 0; c < no_of_commands(); ++c) {
+    std::string name = command[at(c)].name;
+    name.resize(13, ' ');
+    expected += (c % 6 == 0 ? "\n" : "") + name;
+  }
+  EXPECT_EQ(type_in("help\n").out, expected + "\n" + line + "% ");
+}
+
+TEST(Help, FillsTheLineLength) {
+  const ring_in_force ring;
+  for (const int columns : {1, 3, 10}) {
+    set_line_length(13 * columns + 12);
+    const captured out(std::cout);
+    help();
+    std::istringstream rows(out.text());
+    std::string row;
+    std::getline(rows, row);
+    std::getline(rows, row);
+    EXPECT_EQ(static_cast<int>(row.size()), 13 * columns);
+    while (rows.peek() != '-' && std::getline(rows, row)) {
+    }
+    std::getline(rows, row);
+    EXPECT_EQ(row + "\n", Line);
+  }
+}
+
+TEST(Refusals, NameTheOtherProgram) {
+  const std::string roots =
+      "please use 'TORVEN' for computations over the field with n-th roots of unity\n" + line;
+  const std::string cyclotomic = "please use 'TORVEN' for computing cyclotomic schemes\n" + line;
+  EXPECT_EQ(type_in("root\ncyclpol\n").out, "% " + roots + "% " + roots + "% ");
+  EXPECT_EQ(type_in("cyclotom\ncyclotom2\ngencycl\n").out,
+            "% " + cyclotomic + "% " + cyclotomic + "% " + cyclotomic + "% ");
+}
+
+}  // namespace
+}  // namespace zep::tests

@@ -1,0 +1,348 @@
+#include "points/ideal/minimal_generators.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <numeric>
+
+#include "points/walk/buchberger_moeller.h"
+#include "tests/points/computing.h"
+#include "tests/points/everything.h"
+#include "tests/points/plain_artinian.h"
+#include "tests/points/point_sets.h"
+#include "tests/points/shown.h"
+#include "tests/points/special_sets.h"
+
+namespace zep::tests {
+namespace {
+
+scheme computed(const std::vector<coordinates>& points) {
+  scheme X = make_set(points);
+  const silence quiet;
+  min_Ix(X);
+  return X;
+}
+
+int degree_of(const polynomial& f) { return f.term(0).tot_deg(); }
+
+int degree_with_homogenising_variable(const monom& m) { return m.tot_deg() + m.exp(proj - 1); }
+
+std::vector<int> degrees(const std::vector<polynomial>& generators) {
+  std::vector<int> result;
+  for (const polynomial& f : generators) result.push_back(degree_of(f));
+  return result;
+}
+
+// Forms of degree d in the homogeneous coordinates as rows: what is left when X_0 is 1 are the
+// polynomials of degree up to d.
+class forms_of_degree {
+ public:
+  explicit forms_of_degree(int d) : d_(d) {
+    for (int e = 0; e <= d; ++e) {
+      for (const exponents& m : monomials_of_degree(e)) columns_.emplace(m, columns_.size());
+    }
+  }
+
+  int dimension() const { return static_cast<int>(columns_.size()); }
+
+  std::vector<int> row(const polynomial& f, const exponents& factor) const {
+    std::vector<int> result(columns_.size(), 0);
+    for (int i = 0; i < f.no_of_monoms(); ++i) {
+      exponents e = exponents_of(f.term(i));
+      for (std::size_t j = 0; j < e.size(); ++j) e[j] += factor[j];
+      result[columns_.at(e)] = f.coef(i).value();
+    }
+    return result;
+  }
+
+  std::vector<int> row(const polynomial& f) const { return row(f, exponents(at(dim), 0)); }
+
+  // The span of all products with generators of smaller degree.
+  plain_echelon products(const std::vector<polynomial>& generators) const {
+    plain_echelon span;
+    for (const polynomial& g : generators) {
+      if (degree_of(g) >= d_) continue;
+      for (int e = 0; e <= d_ - degree_of(g); ++e) {
+        for (const exponents& factor : monomials_of_degree(e)) span.add(row(g, factor));
+      }
+    }
+    return span;
+  }
+
+ private:
+  int d_;
+  std::map<exponents, std::size_t> columns_;
+};
+
+std::vector<polynomial> groebner_basis_of(const scheme& X) {
+  std::vector<polynomial> elements;
+  for (int g = 0; g < X.Ix->no_of_gens(); ++g) elements.push_back(groebner_element(X, g));
+  return elements;
+}
+
+// Tells which elements of the Groebner basis can be left out together.
+class plain_choice {
+ public:
+  explicit plain_choice(const std::vector<polynomial>& basis) : basis_(basis) {
+    std::map<int, plain_echelon> known;
+    for (const polynomial& g : basis) {
+      const forms_of_degree forms(degree_of(g));
+      if (!known.contains(degree_of(g))) known[degree_of(g)] = forms.products(basis);
+      news_.push_back(known[degree_of(g)].reduced(forms.row(g)));
+      all_[degree_of(g)].add(news_.back());
+    }
+  }
+
+  // True when the elements that are not crossed out generate everything.
+  bool others_generate(const std::vector<int>& crossed_out) const {
+    std::map<int, plain_echelon> others;
+    for (std::size_t g = 0; g < basis_.size(); ++g) {
+      const bool out = std::find(crossed_out.begin(), crossed_out.end(), static_cast<int>(g)) !=
+                       crossed_out.end();
+      if (!out) others[degree_of(basis_[g])].add(news_[g]);
+    }
+    return std::all_of(all_.begin(), all_.end(), [&](const auto& entry) {
+      return others[entry.first].rank() == entry.second.rank();
+    });
+  }
+
+  // What is needed when elements are crossed out one after another, at most `rows` of them; one
+  // that can't be crossed out changes places with the last that has not been tried.
+  std::vector<int> needed(int rows) const {
+    const int n = static_cast<int>(basis_.size());
+    std::vector<int> order(basis_.size());
+    std::iota(order.begin(), order.end(), 0);
+    int end = n;
+    for (int k = 0; k < std::min(n, rows); ++k) {
+      const auto first = order.begin();
+      while (!others_generate({first, first + k + 1})) {
+        if (k >= end - 1) {
+          order.erase(order.begin(), first + k);
+          return order;
+        }
+        std::swap(order[at(k)], order[at(--end)]);
+      }
+    }
+    order.erase(order.begin(), order.begin() + std::min(n, rows));
+    return order;
+  }
+
+ private:
+  const std::vector<polynomial>& basis_;
+  // The elements modulo what those of smaller degree generate.
+  std::vector<std::vector<int>> news_;
+  std::map<int, plain_echelon> all_;
+};
+
+int last_larger(const exponents& a, const exponents& b) {
+  int slot = -1;
+  for (std::size_t j = 0; j < a.size(); ++j) {
+    if (a[j] > b[j]) slot = static_cast<int>(j);
+  }
+  return slot;
+}
+
+// Pairs of basis elements whose leading monomials have a least common multiple that is two
+// variables away from the order ideal.
+int pairs_of_neighbours(const std::vector<polynomial>& basis, const plain_facts& facts) {
+  int pairs = 0;
+  for (std::size_t i = 0; i < basis.size(); ++i) {
+    const exponents s = exponents_of(basis[i].term(0));
+    for (std::size_t j = i + 1; j < basis.size(); ++j) {
+      const exponents t = exponents_of(basis[j].term(0));
+      exponents P;
+      for (std::size_t k = 0; k < s.size(); ++k) P.push_back(std::max(s[k], t[k]));
+      --P[at(last_larger(s, t))];
+      --P[at(last_larger(t, s))];
+      pairs += std::count(facts.order_ideal.begin(), facts.order_ideal.end(), P) > 0 ? 1 : 0;
+    }
+  }
+  return pairs;
+}
+
+// Ascending by degree; each choice lets the last candidate move into the place of the chosen.
+std::vector<int> ascending(std::vector<int> candidates, const std::vector<polynomial>& basis) {
+  std::vector<int> sorted;
+  while (!candidates.empty()) {
+    std::size_t best = 0;
+    for (std::size_t i = 1; i < candidates.size(); ++i) {
+      if (degree_of(basis[at(candidates[i])]) < degree_of(basis[at(candidates[best])])) best = i;
+    }
+    sorted.push_back(candidates[best]);
+    candidates[best] = candidates.back();
+    candidates.pop_back();
+  }
+  return sorted;
+}
+
+const std::string heading =
+    "a minimal basis for the projective vanishing ideal consists of the following\n";
+const std::string degrees_heading =
+    "the degrees of the minimal generators of the projective vanishing ideal are:\n";
+
+const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
+
+TEST(MinIx, OfOnePointHoldsBothLinearFormsTheSecondFirst) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(shown(disp_min, {{3, 4}}),
+            heading + "2 polynomials :\nmin1 = X - 3Z\nmin2 = Y - 4Z\n" + line);
+  EXPECT_EQ(shown(deg_min, {{3, 4}}), degrees_heading + "deg 1 : 2 generator(s)\n" + line);
+}
+
+TEST(MinIx, OfTheTriangleHoldsThreeQuadrics) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(shown(deg_min, triangle), degrees_heading + "deg 2 : 3 generator(s)\n" + line);
+  const std::string text = shown(disp_min, triangle);
+  EXPECT_TRUE(text.starts_with(heading + "3 polynomials :\nmin1 = "));
+  for (const std::string quadric : {" = X^2 - XZ\n", " = XY\n", " = Y^2 - YZ\n"}) {
+    EXPECT_NE(text.find(quadric), std::string::npos) << text;
+  }
+}
+
+TEST(MinIx, OfCompleteIntersectionsLeavesOutTheRestOfTheGroebnerBasis) {
+  const ring_in_force ring(101, 2, term_order::degrevlex);
+  const scheme X = computed(points_on_curve(2, 6));
+  EXPECT_EQ(degrees(X.min_Ix->gen), (std::vector<int>{2, 3}));
+  const scheme G = computed({{0, 0}, {1, 2}, {2, 1}, {5, 7}});
+  EXPECT_EQ(degrees(G.min_Ix->gen), (std::vector<int>{2, 2}));
+  EXPECT_GT(G.Ix->no_of_gens(), 2);
+}
+
+TEST(MinIx, ShowsOneGroupForEachDegree) {
+  const ring_in_force ring(101, 3);
+  EXPECT_EQ(shown(deg_min, points_on_curve(1, 5)),
+            degrees_heading + "deg 1 : 2 generator(s)\ndeg 5 : 1 generator(s)\n" + line);
+  EXPECT_EQ(shown(deg_min, points_on_curve(3, 8)),
+            degrees_heading + "deg 2 : 3 generator(s)\ndeg 3 : 2 generator(s)\n" + line);
+}
+
+TEST(MinIx, OfNoPointsIsAnEmptyList) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(shown(disp_min, std::vector<coordinates>()), heading + "0 polynomials :\n" + line);
+  EXPECT_EQ(shown(deg_min, std::vector<coordinates>()), degrees_heading + line);
+}
+
+TEST(MinIx, IsMadeOnce) {
+  const ring_in_force ring(101, 2);
+  scheme X = computed(triangle);
+  X.min_Ix->gen.resize(1);
+  X.min_Ix->gen[0] = polynomial(variable(1));
+  const silence loud;
+  std::ostringstream out;
+  disp_min(out, X);
+  deg_min(out, X);
+  EXPECT_EQ(out.str(), heading + "1 polynomials :\nmin1 = Y\n" + line + degrees_heading +
+                           "deg 1 : 1 generator(s)\n" + line);
+  EXPECT_EQ(loud.out.text() + loud.err.text(), "");
+}
+
+TEST(MinIx, NeedsTheOrderIdealOnlyAndReportsNothingOfItsOwn) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set(triangle);
+  const written walk = by([&](std::ostream&) { need_bu_mo(X); });
+  scheme Y = make_set(triangle);
+  const written generators = by([&](std::ostream&) { min_Ix(Y); });
+  EXPECT_EQ(generators.out, walk.out);
+  EXPECT_EQ(generators.err, walk.err);
+  Y.min_Ix.reset();
+  Y.Can_Lf.reset();
+  EXPECT_EQ(contents(Y), contents(X));
+}
+
+TEST(MinIx, BreaksLongLinesBehindTheWidthOfTheLabel) {
+  std::mt19937 random(43);
+  line_ends seen;
+  for (int round = 0; round < 40; ++round) {
+    const ring_in_force ring(101, 3);
+    const std::string text = shown(disp_min, random_points(20 + round % 6, random));
+    EXPECT_TRUE(breaks_where_it_must(text, seen)) << text;
+  }
+  EXPECT_GT(seen.full, 0);
+  EXPECT_GT(seen.tight, 0);
+}
+
+TEST(MinIx, OfMeaninglessPointsIsShownAllTheSame) {
+  for_each_meaningless_set([](const std::vector<coordinates>& points) {
+    scheme X = make_set(points);
+    EXPECT_TRUE(shown(disp_min, X).starts_with(heading));
+    EXPECT_TRUE(shown(deg_min, X).starts_with(degrees_heading));
+    EXPECT_LE(X.min_Ix->no_of_gens(), X.Ix->no_of_gens());
+  });
+}
+
+TEST(MinIxProperty, GeneratorsAreFormsThatVanishAscendingByDegree) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const scheme X = computed(points);
+    for (const polynomial& f : X.min_Ix->gen) {
+      for (int i = 0; i < f.no_of_monoms(); ++i) {
+        ASSERT_EQ(f.term(i).dim(), proj);
+        ASSERT_GE(f.term(i).exp(proj - 1), 0);
+        ASSERT_EQ(degree_with_homogenising_variable(f.term(i)), degree_of(f));
+      }
+      for (const coordinates& point : points) ASSERT_EQ(value_at(f, point), 0);
+    }
+    const std::vector<int> found = degrees(X.min_Ix->gen);
+    ASSERT_TRUE(std::is_sorted(found.begin(), found.end()));
+  });
+}
+
+// Above the degree sigma + 2 nothing new is needed, so the generators are all met on the way.
+TEST(MinIxProperty, GenerateTheVanishingIdealAndNoneCanBeLeftOut) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const std::vector<polynomial> generators = computed(points).min_Ix->gen;
+    const std::vector<int> hilbert = plain_facts(points).hilbert;
+    std::size_t met = 0;
+    for (std::size_t d = 0; d <= hilbert.size(); ++d) {
+      const forms_of_degree forms(static_cast<int>(d));
+      plain_echelon span = forms.products(generators);
+      for (; met < generators.size() && degree_of(generators[met]) == static_cast<int>(d); ++met) {
+        ASSERT_TRUE(span.add(forms.row(generators[met]))) << "generator " << met + 1;
+      }
+      ASSERT_EQ(span.rank(), forms.dimension() - hilbert[std::min(d, hilbert.size() - 1)]);
+    }
+    ASSERT_EQ(met, generators.size());
+  });
+}
+
+TEST(MinIxProperty, DegreesDoNotDependOnTheTermOrder) {
+  std::mt19937 random(47);
+  for (const int p : {2, 3, 101, 251}) {
+    for (int n = 2; n <= 5; ++n) {
+      std::vector<named_points> sets;
+      {
+        const ring_in_force ring(p, n);
+        sets = sets_of_points(random);
+      }
+      for (const auto& [name, points] : sets) {
+        std::vector<std::vector<int>> found;
+        for (const term_order order : {term_order::deglex, term_order::degrevlex}) {
+          const ring_in_force ring(p, n, order);
+          found.push_back(degrees(computed(points).min_Ix->gen));
+        }
+        EXPECT_EQ(found[0], found[1]) << name;
+      }
+    }
+  }
+}
+
+TEST(MinIxProperty, KeepsTheElementsThatTheEliminationLeaves) {
+  int left_out = 0;
+  for_each_set([&](const std::vector<coordinates>& points) {
+    const scheme X = computed(points);
+    const std::vector<polynomial> basis = groebner_basis_of(X);
+    const std::vector<int> needed =
+        plain_choice(basis).needed(pairs_of_neighbours(basis, plain_facts(points)));
+    const std::vector<int> expected = ascending(needed, basis);
+    ASSERT_EQ(expected.size(), X.min_Ix->gen.size());
+    for (std::size_t m = 0; m < expected.size(); ++m) {
+      polynomial f;
+      hom(f, basis[at(expected[m])]);
+      ASSERT_EQ(X.min_Ix->gen[m], f) << "generator " << m + 1;
+    }
+    left_out += static_cast<int>(basis.size() - expected.size());
+  });
+  EXPECT_GT(left_out, 100);
+}
+
+}  // namespace
+}  // namespace zep::tests

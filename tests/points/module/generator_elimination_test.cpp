@@ -1,0 +1,127 @@
+#include "points/module/generator_elimination.h"
+
+#include <gtest/gtest.h>
+
+#include "points/module/superfluous_syzygies.h"
+#include "tests/points/module_of_points.h"
+#include "tests/points/plain_artinian.h"
+#include "tests/points/plain_projections.h"
+#include "tests/points/special_sets.h"
+
+namespace zep::tests {
+namespace {
+
+struct eliminated_module {
+  explicit eliminated_module(const std::vector<coordinates>& points) : m(points), generators(m.W) {
+    for (const syzygies_of_degree& S : rewritten_syzygies(m.W, m.leading())) {
+      for (polynomial_row& column : generators.eliminate(S)) {
+        columns.push_back(std::move(column));
+        degrees.push_back(S.degree);
+      }
+    }
+  }
+
+  module_of_points m;
+  generator_elimination generators;
+  std::vector<polynomial_row> columns;
+  std::vector<int> degrees;
+};
+
+int full_degree(const monom& m) { return m.tot_deg() + m.exp(proj - 1); }
+
+TEST(GeneratorElimination, OfFiveGeneralPointsLeavesOneGenerator) {
+  const ring_in_force ring;
+  const eliminated_module e({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {3, 7, 11}});
+  EXPECT_TRUE(e.generators.is_eliminated(0));
+  EXPECT_TRUE(e.generators.is_eliminated(1));
+  EXPECT_FALSE(e.generators.is_eliminated(2));
+  EXPECT_EQ(e.columns.size(), 7U);
+}
+
+TEST(GeneratorElimination, OfOnePointLeavesItsCoordinates) {
+  const ring_in_force ring(101, 2);
+  const eliminated_module e({{5, 7}});
+  ASSERT_EQ(e.columns.size(), 2U);
+  const std::vector<polynomial_row::term>& first = e.columns[0].terms();
+  ASSERT_EQ(first.size(), 2U);
+  EXPECT_EQ(exponents_of(first[0].m), (exponents{1, 0}));
+  EXPECT_EQ(first[1].m.exp(2), 1);
+  EXPECT_EQ(first[1].c, -Fp8(5));
+}
+
+TEST(GeneratorElimination, LeavesTheDimensionAsItWas) {
+  const ring_in_force ring;
+  const eliminated_module e({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {3, 7, 11}});
+  EXPECT_EQ(dim, 3);
+  EXPECT_EQ(proj, 4);
+}
+
+TEST(GeneratorElimination, OfMeaninglessPointsBreaksNothing) {
+  for_each_meaningless_set([](const std::vector<coordinates>& points) {
+    const eliminated_module e(points);
+    EXPECT_LE(e.columns.size(), e.m.leading().size());
+  });
+}
+
+TEST(GeneratorEliminationProperty, SyzygiesAreRewrittenByFallingDegrees) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const module_of_points m(points);
+    int before = m.W.top_degree();
+    std::size_t count = 0;
+    for (const syzygies_of_degree& S : rewritten_syzygies(m.W, m.leading())) {
+      ASSERT_LT(S.degree, before);
+      before = S.degree;
+      count += S.leading.size();
+      const int n = static_cast<int>(S.leading.size());
+      for (int r = 0; r < n; ++r) {
+        ASSERT_EQ(m.W.degree(S.leading[at(r)]), S.degree);
+        for (int k = 0; k < n; ++k) ASSERT_EQ(S.coefs[r][k], r == k ? 1 : 0);
+      }
+    }
+    ASSERT_EQ(count, m.leading().size());
+  });
+}
+
+TEST(GeneratorEliminationProperty, AsManyGeneratorsStayAsTheSocleHas) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const eliminated_module e(points);
+    const plain_artinian plain(points);
+    for (int d = 0; d <= plain.top_degree(); ++d) {
+      int stay = 0;
+      for (int a = 0; a < e.m.W.no_of_candidates(); ++a) {
+        if (e.m.W.degree_of_member(e.m.W.candidate(a)) != d) continue;
+        if (!e.generators.is_eliminated(a)) ++stay;
+      }
+      ASSERT_EQ(stay, plain.socle_dimension(d)) << d;
+    }
+  });
+}
+
+TEST(GeneratorEliminationProperty, ColumnsAreHomogeneousRelationsOfTheGeneratorsWithoutConstants) {
+  int entries = 0;
+  for_each_set([&](const std::vector<coordinates>& points) {
+    const eliminated_module e(points);
+    const std::vector<weights> projections =
+        plain_projections(plain_facts(points).order_ideal, points);
+    for (std::size_t j = 0; j < e.columns.size(); ++j) {
+      weights sum(points.size(), 0);
+      for (const auto& [m, a, c] : e.columns[j].terms()) {
+        const int position = e.m.W.candidate(a);
+        ++entries;
+        ASSERT_FALSE(e.generators.is_eliminated(a));
+        ASSERT_EQ(m.dim(), proj);
+        ASSERT_GT(full_degree(m), 0);
+        ASSERT_EQ(full_degree(m), e.m.W.degree_of_member(position) - e.degrees[j]);
+        const weights product = times(projections[at(position)], exponents_of(m), points);
+        for (std::size_t i = 0; i < sum.size(); ++i) {
+          sum[i] = (sum[i] + c.value() * product[i]) % Fp8::prime;
+        }
+      }
+      ASSERT_EQ(sum, weights(points.size(), 0));
+    }
+  });
+  EXPECT_GT(entries, 10000);
+}
+
+}  // namespace
+}  // namespace zep::tests

@@ -1,0 +1,362 @@
+// The linear strands of I_X and w_R, found the long way: with vectors of polynomials in full length
+// that are searched from end to end.
+#pragma once
+
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "arith/ordering.h"
+#include "arith/polynomial.h"
+#include "arith/ring.h"
+#include "base/output.h"
+#include "points/record/scheme.h"
+
+namespace zep::tests {
+
+using plain_vector = std::vector<polynomial>;
+
+inline int size_of(const plain_vector& v) { return static_cast<int>(v.size()); }
+inline int size_of(const std::vector<plain_vector>& v) { return static_cast<int>(v.size()); }
+
+inline plain_vector zero_vector(int n) { return plain_vector(at(n), polynomial(0)); }
+
+// The component with the greatest leading monomial, the first of several; -1 for a zero vector.
+inline int plain_position(const plain_vector& v) {
+  int position = -1;
+  for (int k = 0; k < size_of(v); ++k) {
+    if (sign(v[at(k)]) == 0) continue;
+    if (position < 0 || v[at(k)].term(0) > v[at(position)].term(0)) position = k;
+  }
+  return position;
+}
+
+// f -= c * m * g.
+inline void subtract(polynomial& f, Fp8 c, const monom& m, const polynomial& g) {
+  if (sign(g) == 0) return;
+  polynomial product = g;
+  product *= m;
+  product *= c;
+  f -= product;
+}
+
+inline void subtract(plain_vector& v, Fp8 c, const monom& m, const plain_vector& w) {
+  for (int k = 0; k < size_of(v); ++k) subtract(v[at(k)], c, m, w[at(k)]);
+}
+
+inline void subtract(plain_vector& v, Fp8 c, const plain_vector& w) { subtract(v, c, monom(), w); }
+
+inline void scale(plain_vector& v, Fp8 c) {
+  for (polynomial& f : v) f *= c;
+}
+
+// Reduces each vector by those before it and divides it by its leading coefficient; returns the
+// positions.
+inline std::vector<int> plain_interreduce(std::vector<plain_vector>& vectors) {
+  std::vector<int> positions;
+  for (int i = 0; i < size_of(vectors); ++i) {
+    plain_vector& v = vectors[at(i)];
+    int position = plain_position(v);
+    for (int k = 0; k < i && position >= 0;) {
+      const polynomial& f = v[at(position)];
+      const polynomial& g = vectors[at(k)][at(position)];
+      if (positions[at(k)] == position && g.term(0) == f.term(0)) {
+        subtract(v, f.coef(0), vectors[at(k)]);
+        position = plain_position(v);
+        k = 0;
+      } else {
+        ++k;
+      }
+    }
+    if (position >= 0) scale(v, Fp8(1) / v[at(position)].coef(0));
+    positions.push_back(position);
+  }
+  return positions;
+}
+
+// A level of a strand.
+struct plain_level {
+  int count() const { return size_of(vectors); }
+
+  int no_of_nonzero() const {
+    int number = 0;
+    for (const int position : positions) number += position >= 0 ? 1 : 0;
+    return number;
+  }
+
+  // Requires a vector that is not zero.
+  const monom& leading_monomial(int i) const {
+    return vectors[at(i)][at(positions[at(i)])].term(0);
+  }
+
+  int rank = 0;
+  std::vector<plain_vector> vectors;
+  std::vector<int> positions;
+  // A "." for each candidate for the next level that is none.
+  std::string marks;
+};
+
+// Two vectors with the same position and what they are multiplied by.
+struct plain_pair {
+  int i;
+  int j;
+  monom times_i;
+  monom times_j;
+};
+
+inline std::vector<plain_pair> plain_pairs(const plain_level& G, bool first_level) {
+  std::vector<plain_pair> pairs;
+  for (int i = 0; i < G.count() - 1; ++i) {
+    for (int j = i + 1; j < G.count(); ++j) {
+      if (G.positions[at(i)] < 0 || G.positions[at(j)] != G.positions[at(i)]) continue;
+      const monom& s = G.leading_monomial(i);
+      const monom& t = G.leading_monomial(j);
+      if (!first_level) {
+        pairs.push_back({i, j, t, s});
+        continue;
+      }
+      const monom L = lcm(s, t);
+      if (L.tot_deg() - s.tot_deg() == 1) pairs.push_back({i, j, L / s, L / t});
+    }
+  }
+  return pairs;
+}
+
+// Finds the candidates for the level after G: one for each pair, zero when it is none.
+class plain_elimination {
+ public:
+  explicit plain_elimination(const plain_level& G) : G_(G) {}
+
+  std::vector<plain_vector> candidates(const std::vector<plain_pair>& pairs) {
+    candidates_.assign(pairs.size(), zero_vector(G_.count()));
+    for (int t = 0; t < size_of(candidates_); ++t) reduce(t, pairs[at(t)]);
+    for (const pivot_row& row : pivot_rows_)
+      candidates_[at(row.candidate)] = zero_vector(G_.count());
+    return std::move(candidates_);
+  }
+
+  // One "." for each that is none.
+  std::string marks() const { return std::string(pivot_rows_.size(), '.'); }
+
+ private:
+  struct pivot_row {
+    int position;
+    plain_vector W;
+    int candidate;
+  };
+
+  void reduce(int t, const plain_pair& pair) {
+    plain_vector& candidate = candidates_[at(t)];
+    candidate[at(pair.i)] = polynomial(pair.times_i, -Fp8(1));
+    candidate[at(pair.j)] = polynomial(pair.times_j);
+    plain_vector W = zero_vector(G_.rank);
+    subtract(W, -Fp8(1), pair.times_j, G_.vectors[at(pair.j)]);
+    subtract(W, Fp8(1), pair.times_i, G_.vectors[at(pair.i)]);
+    for (int k = plain_position(W); k >= 0; k = plain_position(W)) {
+      const Fp8 c = W[at(k)].coef(0);
+      if (subtract_pivot_row(W, k, t) || subtract_vector(W, k, t)) continue;
+      scale(candidate, Fp8(1) / c);
+      scale(W, Fp8(1) / c);
+      pivot_rows_.push_back({k, W, t});
+      return;
+    }
+  }
+
+  bool subtract_pivot_row(plain_vector& W, int k, int t) {
+    const monom lead = W[at(k)].term(0);
+    const Fp8 c = W[at(k)].coef(0);
+    for (const pivot_row& row : pivot_rows_) {
+      if (row.position != k || row.W[at(k)].term(0) != lead) continue;
+      subtract(W, c, row.W);
+      subtract(candidates_[at(t)], c, candidates_[at(row.candidate)]);
+      return true;
+    }
+    return false;
+  }
+
+  bool subtract_vector(plain_vector& W, int k, int t) {
+    const monom lead = W[at(k)].term(0);
+    const Fp8 c = W[at(k)].coef(0);
+    for (int l = 0; l < G_.count(); ++l) {
+      if (G_.positions[at(l)] != k || !Zn_order_lt(G_.leading_monomial(l), lead)) continue;
+      const monom q = lead / G_.leading_monomial(l);
+      subtract(W, c, q, G_.vectors[at(l)]);
+      subtract(candidates_[at(t)][at(l)], c, q, polynomial(1));
+      return true;
+    }
+    return false;
+  }
+
+  const plain_level& G_;
+  std::vector<plain_vector> candidates_;
+  std::vector<pivot_row> pivot_rows_;
+};
+
+// A strand and what is to be seen of its computation.
+struct plain_strand {
+  // From the generators on for I_X, from the linear relations on for w_R.
+  std::vector<plain_level> levels;
+  // What is reported.
+  std::string progress;
+  // The row of linres.
+  std::vector<int> numbers;
+
+  // What goes to standard output.
+  std::string marks() const {
+    std::string all;
+    for (const plain_level& level : levels) all += level.marks;
+    return all;
+  }
+};
+
+// Makes the candidates for the level after the last one.
+inline std::vector<plain_vector> plain_candidates(plain_strand& strand, bool first_level) {
+  plain_level& G = strand.levels.back();
+  const std::vector<plain_pair> pairs = plain_pairs(G, first_level);
+  if (!pairs.empty()) strand.progress += "eliminating syzygies ...\n";
+  for (std::size_t n = pairs.size(); n > 0; --n) strand.progress += "[" + std::to_string(n) + "]";
+  strand.progress += "\n";
+  plain_elimination elimination(G);
+  std::vector<plain_vector> candidates = elimination.candidates(pairs);
+  G.marks = elimination.marks();
+  return candidates;
+}
+
+// Adds a level; its number has the given place in the row when there is such a place.
+inline void add_level(plain_strand& strand, std::vector<plain_vector> vectors, int rank, int place,
+                      int degree) {
+  std::vector<int> positions = plain_interreduce(vectors);
+  strand.levels.push_back({rank, std::move(vectors), std::move(positions), ""});
+  const int number = strand.levels.back().no_of_nonzero();
+  if (place >= 0 && place < static_cast<int>(strand.numbers.size())) {
+    strand.numbers[at(place)] = number;
+  }
+  strand.progress +=
+      std::to_string(number) + " syzygies in degree " + std::to_string(degree) + " found\n";
+}
+
+inline plain_level plain_generators(const scheme& X) {
+  const std::vector<polynomial>& all = X.min_Ix->gen;
+  plain_level result;
+  result.rank = 1;
+  int n = static_cast<int>(all.size());
+  while (all[at(n - 1)].term(0).tot_deg() != all[0].term(0).tot_deg()) --n;
+  for (int i = 0; i < n; ++i) {
+    result.vectors.push_back({all[at(i)]});
+    result.positions.push_back(0);
+  }
+  return result;
+}
+
+// The strand of I_X. Requires min_Ix.
+inline plain_strand plain_strand_of_I_X(const scheme& X) {
+  plain_strand strand;
+  strand.numbers.assign(at(dim), 0);
+  const raised_dim projective;
+  strand.levels.push_back(plain_generators(X));
+  strand.numbers[0] = strand.levels[0].count();
+  strand.progress = "I_X has " + std::to_string(strand.numbers[0]) + " generators of degree " +
+                    std::to_string(X.alpha) + "\n";
+  for (int k = 1;; ++k) {
+    const int rank = strand.levels.back().count();
+    std::vector<plain_vector> candidates = plain_candidates(strand, k == 1);
+    if (candidates.empty()) break;
+    add_level(strand, std::move(candidates), rank, k, X.alpha - k);
+  }
+  strand.progress += Line;
+  return strand;
+}
+
+// Number of generators of w_R with a monomial of the same degree as the last one.
+inline int plain_no_of_generators(const scheme& X) {
+  const auto degree = [&](int i) { return X.O[at(X.pr[at(i)])].tot_deg(); };
+  const int last = static_cast<int>(X.pr.size()) - 1;
+  int g = 1;
+  for (int i = 0; i < last; ++i) g += degree(i) == degree(last) ? 1 : 0;
+  return g;
+}
+
+// The last g entries of the relations that have a linear one among them.
+inline std::vector<plain_vector> plain_relations(const scheme& X, int g) {
+  std::vector<plain_vector> found;
+  const int n = static_cast<int>(X.pr.size());
+  for (int j = 0; j < X.A_d_cols; ++j) {
+    plain_vector relation;
+    bool linear = false;
+    for (int i = n - g; i < n; ++i) {
+      relation.push_back(X.A_d[at(i * X.A_d_cols + j)]);
+      const monom& m = relation.back().term(0);
+      linear = linear || m.tot_deg() + m.exp(proj - 1) == 1;
+    }
+    if (linear) found.push_back(relation);
+  }
+  return found;
+}
+
+inline void drop_zero_vectors(std::vector<plain_vector>& vectors) {
+  std::erase_if(vectors, [](const plain_vector& v) { return plain_position(v) < 0; });
+}
+
+enum class plain_extent { all, linear_relations };
+
+// The strand of w_R, or its beginning. Requires omega.
+inline plain_strand plain_strand_of_w_R(const scheme& X, plain_extent extent = plain_extent::all) {
+  plain_strand strand;
+  strand.numbers.assign(at(dim), 0);
+  const int last = dim - 1;
+  const raised_dim projective;
+  const int g = plain_no_of_generators(X);
+  strand.numbers[at(last)] = g;
+  strand.progress =
+      "w_R has " + std::to_string(g) + " generators in degree " + std::to_string(-X.sigma) + "\n";
+  add_level(strand, plain_relations(X, g), g, last - 1, -X.sigma - 1);
+  for (int k = 2; extent == plain_extent::all; ++k) {
+    const int rank = strand.levels.back().count();
+    std::vector<plain_vector> candidates = plain_candidates(strand, false);
+    drop_zero_vectors(candidates);
+    if (candidates.empty()) break;
+    add_level(strand, std::move(candidates), rank, last - k, -X.sigma - k);
+  }
+  strand.progress += Line;
+  return strand;
+}
+
+// The vectors of a level as text. ----------------------------------------------------------------
+
+inline std::string plain_screen_form(const plain_level& level) {
+  std::ostringstream text;
+  for (int i = 0; i < level.count(); ++i) {
+    if (level.positions[at(i)] < 0) continue;
+    text << "[ ";
+    counter = 2;
+    for (int k = 0; k < level.rank; ++k) {
+      text << (k > 0 ? ";\n" : "") << level.vectors[at(i)][at(k)];
+      counter = 0;
+    }
+    text << " ]\n";
+  }
+  return text.str();
+}
+
+inline std::string plain_file_form(const plain_level& level) {
+  if (level.no_of_nonzero() == 0) return "";
+  std::ostringstream text;
+  text << level.rank << "\n" << level.no_of_nonzero() << "\n";
+  for (int i = 0; i < level.count(); ++i) {
+    for (int k = 0; k < level.rank && level.positions[at(i)] >= 0; ++k) {
+      level.vectors[at(i)][at(k)].put(text);
+      text << "\n";
+    }
+  }
+  return text.str();
+}
+
+// Under its heading.
+inline std::string plain_matrix(const plain_level& level, int number, const std::string& module) {
+  if (level.no_of_nonzero() == 0) return "";
+  return "\n" + std::to_string(number) + ". matrix of linear resolution of " + module + " : \n" +
+         plain_file_form(level);
+}
+
+}  // namespace zep::tests

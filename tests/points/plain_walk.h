@@ -1,0 +1,106 @@
+// The Buchberger-Moeller algorithm and the separators by one triangular reduction after the other:
+// one look-up an operation, one candidate at a time, polynomials as rows of coefficients over O.
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include "arith/Fp8.h"
+#include "arith/candidate.h"
+#include "arith/ordering.h"
+#include "arith/ring.h"
+#include "base/index.h"
+#include "points/record/scheme.h"
+
+namespace zep::tests {
+
+class plain_walk {
+ public:
+  explicit plain_walk(const scheme& X) : X_(X) {
+    if (X.s > 0) candidates_[monom()] = mmm();
+    while (!candidates_.empty()) {
+      const mmm m = candidates_.extract(candidates_.begin()).mapped();
+      if (m.ins == m.t.vars()) {
+        examine(m);
+      } else {
+        B.push_back(m.t);
+      }
+    }
+  }
+
+  using row = std::vector<Fp8>;
+
+  std::vector<monom> O;
+  std::vector<monom> B;
+  // The elements of the Groebner basis: leading monomials, and tails over O.
+  std::vector<monom> leads;
+  std::vector<row> tails;
+
+  // Row i: the separator of point i. Requires distinct points.
+  std::vector<row> separators() const {
+    std::vector<row> f(at(X_.s));
+    for (int j = X_.s - 1; j >= 0; --j) {
+      row& separator = f[at(pi_[at(j)])];
+      separator = q_[at(j)];
+      for (int k = j + 1; k < X_.s; ++k) {
+        subtract(separator, f[at(pi_[at(k)])], values_q_[at(j)][at(pi_[at(k)])]);
+      }
+    }
+    return f;
+  }
+
+ private:
+  static void subtract(row& f, const row& g, Fp8 c) {
+    for (std::size_t i = 0; i < f.size(); ++i) f[i] -= c * g[i];
+  }
+
+  void examine(const mmm& m) {
+    row values(at(X_.s), Fp8(1));
+    for (int i = 0; m.n >= 0 && i < X_.s; ++i) {
+      values[at(i)] = values_[at(m.n)][at(i)] * X_.P[i][m.k];
+    }
+    row reduced = values;
+    row f(at(X_.s));
+    for (std::size_t j = 0; j < O.size(); ++j) {
+      const Fp8 c = reduced[at(pi_[j])];
+      subtract(reduced, values_q_[j], c);
+      subtract(f, q_[j], c);
+    }
+    const auto pivot =
+        std::find_if(reduced.begin(), reduced.end(), [](Fp8 value) { return value != 0; });
+    if (pivot == reduced.end()) {
+      B.push_back(m.t);
+      leads.push_back(m.t);
+      f.resize(O.size());
+      tails.push_back(f);
+      return;
+    }
+    f[O.size()] = 1;
+    const Fp8 c = Fp8(1) / *pivot;
+    pi_.push_back(static_cast<int>(pivot - reduced.begin()));
+    for (Fp8& value : reduced) value *= c;
+    // Also where there is no inverse.
+    reduced[at(pi_.back())] = 1;
+    for (Fp8& coefficient : f) coefficient *= c;
+    q_.push_back(f);
+    values_q_.push_back(reduced);
+    values_.push_back(values);
+    for (int k = 0; k < dim; ++k) {
+      const mmm next{m.t * variable(k), static_cast<int>(O.size()), k, 0};
+      ++candidates_.try_emplace(next.t, next).first->second.ins;
+    }
+    O.push_back(m.t);
+  }
+
+  const scheme& X_;
+  std::map<monom, mmm, monom_comparison> candidates_ =
+      std::map<monom, mmm, monom_comparison>(monom_ordering_lt);
+  // The triangular sequence, over O and by values, and its pivots; the values of O.
+  std::vector<row> q_;
+  std::vector<row> values_q_;
+  std::vector<int> pi_;
+  std::vector<row> values_;
+};
+
+}  // namespace zep::tests

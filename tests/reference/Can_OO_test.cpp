@@ -1,0 +1,242 @@
+#include "reference/Can_OO.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <vector>
+
+#include "points/walk/buchberger_moeller.h"
+#include "tests/arith/power_product.h"
+#include "tests/draw.h"
+#include "tests/points/point_sets.h"
+#include "tests/points/special_sets.h"
+
+namespace zep::tests {
+namespace {
+
+monom X(int e = 1) { return power_product({e}); }
+monom Y(int e = 1) { return power_product({0, e}); }
+
+scheme with_bu_mo(const std::vector<coordinates>& points) {
+  scheme S = make_set(points);
+  const silence quiet;
+  bu_mo(S);
+  return S;
+}
+
+// Three points of P^2 with the order ideal 1, Y, X.
+scheme three_points() { return with_bu_mo({{0, 0}, {1, 0}, {0, 1}}); }
+
+TEST(Check, FindsTheTermWithAMonomial) {
+  const ring_in_force ring(101, 2);
+  const polynomial f = sum_of({{2, X(2)}, {1, Y()}, {5, monom()}});
+  EXPECT_EQ(check(f, X(2)), 0);
+  EXPECT_EQ(check(f, Y()), 1);
+  EXPECT_EQ(check(f, monom()), 2);
+  EXPECT_EQ(check(f, X()), -1);
+}
+
+TEST(Check, FindsNoTermInZero) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(check(polynomial(0), monom()), -1);
+}
+
+TEST(Check, ComparesTheHomogenisingVariableOnlyWhenBothHaveIt) {
+  const ring_in_force ring(101, 2);
+  const polynomial f = sum_of({{1, projective({2, 0, 0})}, {1, projective({0, 1, 1})}});
+  EXPECT_EQ(check(f, Y()), 1);
+  EXPECT_EQ(check(f, projective({0, 1, 1})), 1);
+  EXPECT_EQ(check(f, projective({0, 1, 0})), -1);
+}
+
+TEST(CanOO, KeepsWhatLiesOnTheOrderIdeal) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X()};
+  const std::vector<polynomial> Can = {polynomial(7)};
+  polynomial f = sum_of({{2, X()}, {1, Y()}, {5, monom()}});
+  const polynomial before = f;
+  EXPECT_EQ(Can_OO(f, OO, Can, S), before);
+  f = 0;
+  EXPECT_EQ(Can_OO(f, OO, Can, S), polynomial(0));
+}
+
+TEST(CanOO, ReplacesEveryTermOutsideTheOrderIdealAndReturnsItsArgument) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {Y(2), X(2)};
+  const std::vector<polynomial> Can = {polynomial(Y()), sum_of({{3, X()}, {1, monom()}})};
+  polynomial f = sum_of({{2, X(2)}, {1, Y(2)}, {1, X()}});
+  polynomial& result = Can_OO(f, OO, Can, S);
+  EXPECT_EQ(&result, &f);
+  EXPECT_EQ(f, sum_of({{7, X()}, {1, Y()}, {2, monom()}}));
+}
+
+TEST(CanOO, ReplacesWhatComesInWithACanonicalForm) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X(2), X(3), Y(2)};
+  const std::vector<polynomial> Can = {polynomial(Y(2), Fp8(5)), sum_of({{1, X(2)}, {1, X()}}),
+                                       polynomial(Y(), Fp8(2))};
+  polynomial f(X(3));
+  EXPECT_EQ(Can_OO(f, OO, Can, S), sum_of({{1, X()}, {10, Y()}}));
+}
+
+TEST(CanOO, TakesTheFirstOfSeveralForms) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X(2), X(2)};
+  const std::vector<polynomial> Can = {polynomial(X()), polynomial(Y())};
+  polynomial f(X(2));
+  EXPECT_EQ(Can_OO(f, OO, Can, S), polynomial(X()));
+}
+
+TEST(CanOO, ReplacesByZeroToo) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X(2)};
+  const std::vector<polynomial> Can = {polynomial(0)};
+  polynomial f = sum_of({{1, X(2)}, {1, Y()}});
+  EXPECT_EQ(Can_OO(f, OO, Can, S), polynomial(Y()));
+  f = X(2);
+  EXPECT_EQ(Can_OO(f, OO, Can, S), polynomial(0));
+}
+
+TEST(CanOO, KeepsTheDegreeOfHomogeneousPolynomials) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X(2)};
+  const std::vector<polynomial> Can = {sum_of({{3, projective({1, 0, 1})}})};
+  polynomial f = sum_of({{1, projective({2, 0, 2})}, {1, projective({0, 1, 3})}});
+  EXPECT_EQ(Can_OO(f, OO, Can, S),
+            sum_of({{3, projective({1, 0, 3})}, {1, projective({0, 1, 3})}}));
+}
+
+TEST(CanOO, TellsProjectiveMonomialsWithOtherPowersApart) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {projective({2, 0, 0}), projective({2, 0, 1})};
+  const std::vector<polynomial> Can = {polynomial(projective({0, 1, 1})),
+                                       polynomial(projective({1, 0, 2}))};
+  polynomial f(projective({2, 0, 1}));
+  EXPECT_EQ(Can_OO(f, OO, Can, S), polynomial(projective({1, 0, 2})));
+}
+
+TEST(CanOO, KeepsATermWithoutAFormAndGoesOn) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {Y(2)};
+  const std::vector<polynomial> Can = {polynomial(Y())};
+  polynomial f = sum_of({{1, X(2)}, {1, Y(2)}});
+  EXPECT_EQ(Can_OO(f, OO, Can, S), sum_of({{1, X(2)}, {1, Y()}}));
+  polynomial g(X(2));
+  EXPECT_EQ(Can_OO(g, {}, {}, S), polynomial(X(2)));
+}
+
+TEST(CanOO, GivesUpOnFormsThatLeadInACircle) {
+  for (const int p : {6, 101}) {
+    const ring_in_force ring(p, 2);
+    const scheme S = three_points();
+    const std::vector<monom> OO = {X(2), Y(2), X(3)};
+    const std::vector<polynomial> Can = {polynomial(Y(2), Fp8(2)), polynomial(X(2), Fp8(3)),
+                                         sum_of({{2, X(3)}, {3, X(2)}})};
+    polynomial f = sum_of({{1, X(3)}, {1, X(2)}});
+    Can_OO(f, OO, Can, S);
+    EXPECT_EQ(dim, 2);
+  }
+}
+
+TEST(CanOO, RaisesTheDimensionSoThatTheZeroThatIsLeftIsProjective) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  const std::vector<monom> OO = {X(2)};
+  const std::vector<polynomial> Can = {polynomial(0)};
+  polynomial f(X(2));
+  Can_OO(f, OO, Can, S);
+  ASSERT_EQ(sign(f), 0);
+  EXPECT_EQ(f.term(0).dim(), proj);
+}
+
+TEST(CanOO, LowersTheRaisedDimensionAgain) {
+  const ring_in_force ring(101, 2);
+  const scheme S = three_points();
+  polynomial f(X(2));
+  const std::vector<monom> OO = {X(2)};
+  const std::vector<polynomial> Can = {polynomial(Y())};
+  Can_OO(f, OO, Can, S);
+  EXPECT_EQ(dim, 2);
+  const raised_dim raised;
+  Can_OO(f, OO, Can, S);
+  EXPECT_EQ(dim, 3);
+}
+
+// The leading monomials of the Groebner basis, and their canonical forms made homogeneous.
+struct forms_of_basis {
+  explicit forms_of_basis(const scheme& S) {
+    for (int g = 0; g < S.Ix->no_of_gens(); ++g) {
+      polynomial h;
+      hom(h, groebner_element(S, g));
+      polynomial lead(h.term(0));
+      OO.push_back(S.Ix->lead(g));
+      Can.push_back(lead - h);
+    }
+  }
+
+  std::vector<monom> OO;
+  std::vector<polynomial> Can;
+};
+
+// A homogeneous polynomial on the order ideal and the leading monomials of the Groebner basis.
+polynomial random_form(const scheme& S, int degree, std::mt19937& random) {
+  polynomial f;
+  const auto add = [&](monom m) {
+    if (m.tot_deg() > degree || below(random, 2) == 0) return;
+    prj(m);
+    m.set_exp(proj - 1, degree - m.tot_deg());
+    f += polynomial(m, Fp8(below(random, Fp8::prime)));
+  };
+  for (const monom& m : S.O) add(m);
+  for (int g = 0; g < S.Ix->no_of_gens(); ++g) add(S.Ix->lead(g));
+  return f;
+}
+
+void expect_homogeneous_on_order_ideal(const polynomial& f, int degree, const scheme& S) {
+  for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
+    const monom& m = f.term(i);
+    ASSERT_GE(is_el_OO(S, m), 0);
+    ASSERT_EQ(m.tot_deg() + m.exp(proj - 1), degree);
+  }
+}
+
+TEST(CanOOProperty, GivesTheFormOnTheOrderIdealWithTheSameValues) {
+  std::mt19937 random(59);
+  for_each_set([&](const std::vector<coordinates>& points) {
+    const scheme S = with_bu_mo(points);
+    const forms_of_basis forms(S);
+    const int degree = S.sigma + 1 + below(random, 4);
+    polynomial f = random_form(S, degree, random);
+    const polynomial before = f;
+    Can_OO(f, forms.OO, forms.Can, S);
+    ASSERT_EQ(dim, proj - 1);
+    ASSERT_NO_FATAL_FAILURE(expect_homogeneous_on_order_ideal(f, degree, S));
+    for (const coordinates& point : points) {
+      ASSERT_EQ(value_at(f, point), value_at(before, point));
+    }
+    const polynomial once = f;
+    ASSERT_EQ(Can_OO(f, forms.OO, forms.Can, S), once);
+  });
+}
+
+TEST(CanOOProperty, ComesToAnEndOnMeaninglessSets) {
+  std::mt19937 random(61);
+  for_each_meaningless_set([&](const std::vector<coordinates>& points) {
+    const scheme S = with_bu_mo(points);
+    const forms_of_basis forms(S);
+    polynomial f = random_form(S, S.sigma + 2, random);
+    Can_OO(f, forms.OO, forms.Can, S);
+    ASSERT_EQ(dim, proj - 1);
+  });
+}
+
+}  // namespace
+}  // namespace zep::tests
