@@ -5,7 +5,6 @@
 #include <type_traits>
 
 #include "arith/Fp.h"
-#include "base/index.h"
 
 namespace zep::arith {
 
@@ -101,7 +100,7 @@ char* write_variables(char* to, const monom& m, text_form form) {
   for (int i = 0; i < m.dim(); ++i) {
     const int e = m.exp(i);
     if (e == 0) continue;
-    *to++ = varstring[at(i)];
+    *to++ = varstring[i];
     if (e == 1) continue;
     if (form == text_form::screen) *to++ = '^';
     to = write_number(to, e);

@@ -8,7 +8,6 @@
 #include <string>
 
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/output.h"
 
 namespace zep::arith {
@@ -33,25 +32,25 @@ class monom {
 
   // All `proj` slots become c; `dim` stays.
   monom& operator=(exponent c) {
-    for (int i = 0; i < proj; ++i) exp_[at(i)] = c;
+    for (int i = 0; i < proj; ++i) exp_[i] = c;
     return *this;
   }
 
   int dim() const { return dim_; }
-  exponent exp(int i) const { return exp_[at(i)]; }
-  void set_exp(int i, int e) { exp_[at(i)] = static_cast<exponent>(e); }
+  exponent exp(int i) const { return exp_[i]; }
+  void set_exp(int i, int e) { exp_[i] = static_cast<exponent>(e); }
 
   // Sum of the first `proj` - 1 exponents, the affine degree.
   int tot_deg() const {
     int degree = 0;
-    for (int i = 0; i < proj - 1; ++i) degree += exp_[at(i)];
+    for (int i = 0; i < proj - 1; ++i) degree += exp_[i];
     return degree;
   }
 
   // Number of slots below `dim` with a positive exponent.
   int vars() const {
     int count = 0;
-    for (int i = 0; i < dim_; ++i) count += exp_[at(i)] > 0 ? 1 : 0;
+    for (int i = 0; i < dim_; ++i) count += exp_[i] > 0 ? 1 : 0;
     return count;
   }
 

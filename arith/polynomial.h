@@ -6,7 +6,6 @@
 
 #include "arith/Fp8.h"
 #include "arith/monom.h"
-#include "base/index.h"
 
 namespace zep::arith {
 
@@ -34,8 +33,8 @@ class polynomial {
 
   int no_of_monoms() const { return static_cast<int>(term_.size()); }
   // Term i and its coefficient, 0 <= i < no_of_monoms(); term 0 leads.
-  const monom& term(int i) const { return term_[at(i)]; }
-  Fp8 coef(int i) const { return coef_[at(i)]; }
+  const monom& term(int i) const { return term_[i]; }
+  Fp8 coef(int i) const { return coef_[i]; }
 
   polynomial& operator+=(const polynomial& b);
   polynomial& operator-=(const polynomial& b);

@@ -3,7 +3,6 @@
 #include <iostream>
 #include <string>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "front/commands/command.h"
 #include "front/commands/execution.h"
@@ -24,7 +23,7 @@ int read_identifier(session& z) {
 void carry_out(session& z, const std::string& word) {
   const int c = find_command(word);
   if (c >= 0) {
-    const bool takes_identifier = command[at(c)].kind != command_kind::nothing;
+    const bool takes_identifier = command[c].kind != command_kind::nothing;
     execute(z, c, takes_identifier ? read_identifier(z) : no_identifier);
     return;
   }

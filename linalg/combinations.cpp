@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/kernels/product_tile.h"
 #include "linalg/kernels/row_kernels.h"

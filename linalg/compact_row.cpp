@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
@@ -64,7 +63,7 @@ void triangulate(std::vector<compact_row>& rows, std::size_t width) {
     std::size_t pivot = rows[i].pivot();
     while (pivot < width && row_with_pivot[pivot] >= 0) {
       heed_interrupt();
-      rows[at(row_with_pivot[pivot])].subtract_from(all.data(), all[pivot]);
+      rows[row_with_pivot[pivot]].subtract_from(all.data(), all[pivot]);
       ++pivot;
       pivot += first_nonzero(all.data() + pivot, width - pivot);
     }

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <numeric>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
@@ -47,8 +46,8 @@ class subset_walk {
       : all_(columns_of(m)),
         upper_{all_, m.cols()},
         lower_(std::min(k, lower_places)),
-        chosen_(at(k)),
-        nonzero_(at(m.rows())) {
+        chosen_(k),
+        nonzero_(m.rows()) {
     for (int i = 0; i + 1 < lower_; ++i) {
       heed_interrupt();
       const int active = m.cols() - (k - 1 - i);
@@ -75,11 +74,11 @@ class subset_walk {
     return columns;
   }
 
-  const reduced_rows& at_place(int i) const { return i >= lower_ - 1 ? upper_ : places_[at(i)]; }
+  const reduced_rows& at_place(int i) const { return i >= lower_ - 1 ? upper_ : places_[i]; }
 
   // Chooses row c for place i, and all that can be chosen below it.
   bool choose(int i, int c) {
-    chosen_[at(i)] = c;
+    chosen_[i] = c;
     const int pivot = at_place(i).pivot_of(c);
     if (pivot < 0) {
       // The rows from c on depend on each other whatever is below: the first choice is the answer.
@@ -111,7 +110,7 @@ class subset_walk {
       std::swap_ranges(columns[pivot], columns[pivot] + columns.cols(), columns[last]);
     }
     for (int j = 0; j < last; ++j) {
-      axpy(columns[j], columns[last], -(columns[j][c] / columns[last][c]), at(c));
+      axpy(columns[j], columns[last], -(columns[j][c] / columns[last][c]), c);
     }
   }
 
@@ -119,21 +118,21 @@ class subset_walk {
   void reduce_upper_again(int first) {
     upper_ = {all_, all_.rows()};
     for (int i = static_cast<int>(chosen_.size()) - 1; i >= first; --i) {
-      reduce_upper(chosen_[at(i)], upper_.pivot_of(chosen_[at(i)]));
+      reduce_upper(chosen_[i], upper_.pivot_of(chosen_[i]));
     }
   }
 
   // Fills the table of place i - 1 with the rows below c, reduced by row c.
   void reduce_into_place_below(int i, int c, int pivot) {
     const reduced_rows& here = at_place(i);
-    matrix& next = places_[at(i - 1)].columns;
+    matrix& next = places_[i - 1].columns;
     const Fp8* const pivot_column = here.columns[pivot];
     int target = 0;
     for (int j = 0; j < here.active; ++j) {
       if (j == pivot) continue;
       const Fp8* const column = here.columns[j];
       std::copy(column, column + c, next[target]);
-      axpy(next[target], pivot_column, -(column[c] / pivot_column[c]), at(c));
+      axpy(next[target], pivot_column, -(column[c] / pivot_column[c]), c);
       ++target;
     }
   }
@@ -147,7 +146,7 @@ class subset_walk {
       for (int j = 0; j < here.active; ++j) mark_nonzero(here.columns[j], c);
       column = nonzero_.data();
     }
-    const void* const zero = std::memchr(column, 0, at(c));
+    const void* const zero = std::memchr(column, 0, c);
     if (zero == nullptr) return false;
     chosen_[0] = static_cast<int>(static_cast<const Fp8*>(zero) - column);
     return true;
@@ -155,7 +154,7 @@ class subset_walk {
 
   void mark_nonzero(const Fp8* column, int c) {
     for (int r = 0; r < c; ++r) {
-      nonzero_[at(r)] = Fp8(nonzero_[at(r)].value() | column[r].value());
+      nonzero_[r] = Fp8(nonzero_[r].value() | column[r].value());
     }
   }
 

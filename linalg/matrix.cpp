@@ -7,7 +7,6 @@
 #include <string>
 #include <utility>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
@@ -39,8 +38,8 @@ class gauss_jordan {
   }
 
  private:
-  int& column(int k) { return c_[at(k)]; }
-  int& row_index(int k) { return r_[at(k)]; }
+  int& column(int k) { return c_[k]; }
+  int& row_index(int k) { return r_[k]; }
   Fp8* row(int k) { return a_[row_index(k)]; }
 
   // Brings a non-zero entry to position (k, k): a row from below, or else, with another column.
@@ -100,7 +99,7 @@ int width_of_column(const matrix& m, int j) {
 void print_row(std::ostream& out, const matrix& m, int i, const std::vector<int>& widths) {
   out << "[ ";
   for (int j = 0; j < m.cols(); ++j) {
-    const int spare = widths[at(j)] - len(m[i][j]);
+    const int spare = widths[j] - len(m[i][j]);
     if (j > 0) out << "  ";
     out << blanks((spare + 1) / 2) << m[i][j] << blanks(spare / 2);
   }
@@ -126,18 +125,18 @@ Fp8 matrix::minor(std::span<const int> col, std::span<const int> rr) const {
   const int n = static_cast<int>(col.size());
   matrix w(n, n);
   for (int i = 0; i < n; ++i) {
-    const Fp8* row = (*this)[rr[at(i)]];
-    for (int j = 0; j < n; ++j) w[i][j] = row[col[at(j)]];
+    const Fp8* row = (*this)[rr[i]];
+    for (int j = 0; j < n; ++j) w[i][j] = row[col[j]];
   }
   std::vector<int> order = identity_order(n);
-  const auto row = [&](int k) { return w[order[at(k)]]; };
+  const auto row = [&](int k) { return w[order[k]]; };
   Fp8 determinant(1);
   for (int k = 0; k < n; ++k) {
     int p = k;
     while (p < n && row(p)[k] == 0) ++p;
     if (p == n) return Fp8(0);
     if (p != k) {
-      std::swap(order[at(p)], order[at(k)]);
+      std::swap(order[p], order[k]);
       determinant = -determinant;
     }
     const Fp8 pivot = row(k)[k];
@@ -174,7 +173,7 @@ std::ostream& operator<<(std::ostream& out, const matrix& m) {
   std::vector<int> widths(static_cast<std::size_t>(m.cols()));
   for (int j = 0; j < m.cols(); ++j) {
     heed_interrupt();
-    widths[at(j)] = width_of_column(m, j);
+    widths[j] = width_of_column(m, j);
   }
   for (int i = 0; i < m.rows(); ++i) {
     heed_interrupt();

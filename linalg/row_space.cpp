@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
@@ -28,7 +27,7 @@ bool row_space::add(std::vector<Fp8> row) {
 matrix row_space::basis() const {
   matrix m(cols_, rank());
   for (int i = 0; i < m.rows(); ++i) {
-    const std::vector<Fp8>& row = rows_[at(i)];
+    const std::vector<Fp8>& row = rows_[i];
     std::copy(row.begin(), row.end(), m[i]);
   }
   return m;

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "arith/Fp.h"
-#include "base/index.h"
 
 namespace zep::points {
 
@@ -15,7 +14,7 @@ constexpr int label_width = 6;
 
 }  // namespace
 
-int strand_table::width(int k) const { return widths_[at(k)]; }
+int strand_table::width(int k) const { return widths_[k]; }
 
 void strand_table::head(std::ostream& out) const {
   line(out, "    | ", consecutive(columns(), 1, 1));
@@ -25,15 +24,15 @@ void strand_table::head(std::ostream& out) const {
 void strand_table::rule(std::ostream& out) const {
   int length = label_width;
   for (const int width : widths_) length += width + 1;
-  out << std::string(at(length), '-') << "\n";
+  out << std::string(length, '-') << "\n";
 }
 
 void strand_table::line(std::ostream& out, std::string_view label,
                         const std::vector<int>& numbers) const {
   out << label;
   for (int k = 0; k < columns(); ++k) {
-    const int number = numbers[at(k)];
-    out << number << std::string(at(std::max(width(k) - len(number) + 1, 0)), ' ');
+    const int number = numbers[k];
+    out << number << std::string(std::max(width(k) - len(number) + 1, 0), ' ');
   }
   out << "\n";
 }
@@ -41,8 +40,8 @@ void strand_table::line(std::ostream& out, std::string_view label,
 int column_width(int entry) { return std::max(3, len(entry)); }
 
 std::vector<int> consecutive(int n, int first, int step) {
-  std::vector<int> numbers(at(n));
-  for (int k = 0; k < n; ++k) numbers[at(k)] = first + k * step;
+  std::vector<int> numbers(n);
+  for (int k = 0; k < n; ++k) numbers[k] = first + k * step;
   return numbers;
 }
 

@@ -3,7 +3,6 @@
 #include <ostream>
 #include <vector>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "text/vector_text.h"
 
@@ -18,7 +17,7 @@ void for_each_nonzero(const form_vectors& vectors, Use use) {
     heed_interrupt();
     if (vectors.position(i) < 0) continue;
     const std::vector<polynomial> components = vectors.components(i);
-    use([&](int k) -> const polynomial& { return components[at(k)]; });
+    use([&](int k) -> const polynomial& { return components[k]; });
   }
 }
 

@@ -14,7 +14,7 @@ namespace zep::tests {
 // Affine monomials with exponents 0 .. 3: their degrees are near each other, and sometimes equal.
 inline std::vector<monom> irregular_monomials(int count) {
   irregular_numbers numbers(1);
-  std::vector<monom> monomials(at(count));
+  std::vector<monom> monomials(count);
   for (monom& m : monomials) {
     for (int i = 0; i < dim; ++i) m.set_exp(i, numbers.below(4));
   }
@@ -43,11 +43,11 @@ inline void append_multiples(std::vector<monom>& monomials, monom m, int variabl
 // The `count` smallest affine monomials, descending.
 inline std::vector<monom> smallest_monomials(int count) {
   std::vector<monom> monomials;
-  for (int degree = 0; monomials.size() < at(count); ++degree) {
+  for (int degree = 0; std::ssize(monomials) < count; ++degree) {
     append_multiples(monomials, monom(), 0, degree);
   }
   std::sort(monomials.begin(), monomials.end());
-  monomials.resize(at(count));
+  monomials.resize(count);
   std::reverse(monomials.begin(), monomials.end());
   return monomials;
 }
@@ -60,7 +60,7 @@ inline polynomial irregular_polynomial(int terms, std::uint64_t start) {
   std::vector<monom> term;
   std::vector<Fp8> coef;
   for (int i = 0; i < terms; ++i) {
-    term.push_back(monomials[at(2 * i + numbers.below(2))]);
+    term.push_back(monomials[2 * i + numbers.below(2)]);
     coef.emplace_back(1 + numbers.below(Fp8::prime - 1));
   }
   return {std::move(term), std::move(coef)};

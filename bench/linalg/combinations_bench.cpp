@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "base/index.h"
 #include "bench/irregular_numbers.h"
 #include "linalg/combinations.h"
 #include "linalg/kernels/row_kernels.h"
@@ -22,7 +21,7 @@ matrix some_matrix(int rows, int cols, irregular_numbers& numbers) {
 template <class Pointer>
 std::vector<Pointer> rows_of(matrix& m) {
   std::vector<Pointer> rows;
-  rows.reserve(at(m.rows()));
+  rows.reserve(m.rows());
   for (int i = 0; i < m.rows(); ++i) rows.push_back(m[i]);
   return rows;
 }
@@ -42,7 +41,7 @@ void bench_combinations(benchmark::State& state, const row_kernels* kernels) {
   const std::vector<Fp8*> sums = rows_of<Fp8*>(c);
   const std::vector<const Fp8*> added = rows_of<const Fp8*>(b);
   for ([[maybe_unused]] const auto _ : state) {
-    add_combinations(sums, a, added, at(n));
+    add_combinations(sums, a, added, n);
     benchmark::ClobberMemory();
   }
   state.SetItemsProcessed(state.iterations() * rows * summands * n);

@@ -4,7 +4,6 @@
 #include <iostream>
 #include <string_view>
 
-#include "base/index.h"
 #include "base/output.h"
 #include "base/reporter.h"
 #include "front/commands/point_entry.h"
@@ -200,7 +199,7 @@ constinit const std::span<const command_record> command = table;
 
 int find_command(const std::string& name) {
   for (int c = 0; c < no_of_commands(); ++c) {
-    if (name == command[at(c)].name) return c;
+    if (name == command[c].name) return c;
   }
   return -1;
 }
@@ -210,7 +209,7 @@ void help() {
   const int columns = LL / column_width;
   std::cout << "list of commands in alphabetical order :";
   for (int c = 0; c < no_of_commands(); ++c) {
-    const std::string_view name = command[at(c)].name;
+    const std::string_view name = command[c].name;
     if (c % columns == 0) std::cout << "\n";
     std::cout << name << std::string(column_width - name.size(), ' ');
   }

@@ -4,7 +4,6 @@
 #include <sstream>
 #include <string_view>
 
-#include "base/index.h"
 #include "front/commands/command.h"
 #include "front/terminal/prompt.h"
 
@@ -39,7 +38,7 @@ completions complete(const identifier_table& identifiers, const std::string& pro
   }
   const int c = find_command(typed.front());
   if (c < 0) return {};
-  const command_record& todo = command[at(c)];
+  const command_record& todo = command[c];
   if (typed.size() == 1 && todo.kind != command_kind::nothing) return {identifiers.names()};
   return {{}, typed.size() == 2 && takes_file(todo)};
 }

@@ -1,6 +1,5 @@
 #include "front/commands/execution.h"
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "front/commands/command.h"
 #include "front/session/error.h"
@@ -44,7 +43,7 @@ bool accepts(const session& z, command_kind kind, int identifier) {
 
 void execute(session& z, int c, int identifier) {
   if (c < 0 || c >= no_of_commands()) return;
-  const command_record& todo = command[at(c)];
+  const command_record& todo = command[c];
   if (!accepts(z, todo.kind, identifier)) return;
   if (todo.kind == command_kind::scheme_identifier) {
     leaving_nothing_half_done(z.var.object(identifier), [&] { todo.action(z, identifier); });

@@ -3,7 +3,6 @@
 #include <iostream>
 
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "front/files/into_file.h"
@@ -109,7 +108,7 @@ void putmin(session& z, int identifier) {
       [&](std::ostream& out) {
         const ideal& I = *X.min_Ix;
         write_polynomials(out, I.no_of_gens(),
-                          [&](int m) -> const polynomial& { return I.gen[at(m)]; });
+                          [&](int m) -> const polynomial& { return I.gen[m]; });
       });
 }
 

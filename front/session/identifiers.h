@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "base/index.h"
 #include "front/session/input.h"
 #include "points/record/scheme.h"
 
@@ -64,8 +63,8 @@ class identifier_table {
     std::unique_ptr<scheme> object;
   };
 
-  record& entry(int i) { return var_[at(i)]; }
-  const record& entry(int i) const { return var_[at(i)]; }
+  record& entry(int i) { return var_[i]; }
+  const record& entry(int i) const { return var_[i]; }
   int first_free() const;
 
   std::array<record, size> var_;

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "arith/Fp.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "linalg/row_operations.h"
@@ -83,16 +82,16 @@ class constants_of_relations {
   // Every degree is smaller: members of O reach degree sigma + 1, relations two more.
   int degrees() const { return X_.sigma + 4; }
 
-  int begin(int d) const { return begin_[at(d)]; }
+  int begin(int d) const { return begin_[d]; }
   int size(int d) const { return begin(d + 1) - begin(d); }
 
   // The degree of x_b * (border form of P x_a) - x_a * (border form of P x_b).
-  int degree(const neighbours& pair) const { return X_.O[at(pair.position)].tot_deg() + 2; }
+  int degree(const neighbours& pair) const { return X_.O[pair.position].tot_deg() + 2; }
 
   // The constants in that relation. The border forms' own monomials cancel, and what is left is
   // made of canonical forms.
   std::vector<Fp8> relation(const neighbours& pair) const {
-    std::vector<Fp8> row(at(size(degree(pair))));
+    std::vector<Fp8> row(size(degree(pair)));
     add_products(row, forms_.times(pair.position, pair.a).position, pair.b, Fp8(1));
     add_products(row, forms_.times(pair.position, pair.b).position, pair.a, -Fp8(1));
     return row;
@@ -101,11 +100,11 @@ class constants_of_relations {
  private:
   // The constants in the border form B[b] - Can_Lf(B[b]), written with basis elements.
   std::vector<Fp8> border_row(int b) const {
-    const monom& t = X_.B[at(b)];
+    const monom& t = X_.B[b];
     const int d = t.tot_deg();
-    std::vector<Fp8> row(at(size(d)));
+    std::vector<Fp8> row(size(d));
     if (const int g = is_el_G(X_, t); g >= 0) {
-      row[at(g - begin(d))] = 1;
+      row[g - begin(d)] = 1;
     } else if (const auto [border, variable] = forms_.origin_of(b); border >= 0) {
       add_products(row, border, variable, Fp8(1));
     }
@@ -115,9 +114,9 @@ class constants_of_relations {
   // Adds c times the constants of the border monomials in x_v * Can_Lf(B[b]).
   void add_products(std::vector<Fp8>& row, int b, int v, Fp8 c) const {
     if (row.empty()) return;
-    const int d = X_.B[at(b)].tot_deg();
+    const int d = X_.B[b].tot_deg();
     forms_.for_each_product(forms_.form(b), d, v, [&](Fp8 coef, canonical_forms::product p) {
-      if (!p.in_O) axpy(row.data(), of_border_[at(p.position)].data(), c * coef, row.size());
+      if (!p.in_O) axpy(row.data(), of_border_[p.position].data(), c * coef, row.size());
     });
   }
 
@@ -133,17 +132,17 @@ matrix relation_matrix(const scheme& X, const std::vector<neighbours>& pairs) {
   const constants_of_relations constants(X);
   const int degrees = constants.degrees();
   std::vector<row_space> relations;
-  relations.reserve(at(degrees));
+  relations.reserve(degrees);
   for (int d = 0; d < degrees; ++d) relations.emplace_back(constants.size(d));
   for (const neighbours& pair : pairs) {
-    relations[at(constants.degree(pair))].add(constants.relation(pair));
+    relations[constants.degree(pair)].add(constants.relation(pair));
   }
   int rank = 0;
   for (const row_space& of_degree : relations) rank += of_degree.rank();
   matrix N(X.Ix->no_of_gens(), rank);
   int row = 0;
   for (int d = 0; d < degrees; ++d) {
-    const matrix basis = relations[at(d)].basis();
+    const matrix basis = relations[d].basis();
     for (int i = 0; i < basis.rows(); ++i) {
       std::copy(basis.row(i).begin(), basis.row(i).end(), N[row++] + constants.begin(d));
     }

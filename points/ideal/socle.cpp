@@ -8,7 +8,6 @@
 
 #include "arith/Fp.h"
 #include "arith/list.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "points/ideal/artinian_forms.h"
@@ -24,8 +23,8 @@ class socle_finder {
   explicit socle_finder(const scheme& X) : O_(X.O), R_(*X.Can_Lf) {
     // The variables in O; the others are combinations of them in R/(X_0).
     for (int i = R_.begin(1); i < R_.begin(2); ++i) {
-      for (int v = 0; v < O_[at(i)].dim(); ++v) {
-        if (O_[at(i)].exp(v) == 1) variables_.push_back(v);
+      for (int v = 0; v < O_[i].dim(); ++v) {
+        if (O_[i].exp(v) == 1) variables_.push_back(v);
       }
     }
   }
@@ -41,11 +40,11 @@ class socle_finder {
     const int found = system.solve(columns, rows);
     for (int v = 0; v < found; ++v) {
       heed_interrupt();
-      const int free_column = columns[at(m - v - 1)];
-      std::vector<Fp8> row(at(last + 1));
-      row[at(last - free_column)] = 1;
+      const int free_column = columns[m - v - 1];
+      std::vector<Fp8> row(last + 1);
+      row[last - free_column] = 1;
       for (int q = 0; q < m - found; ++q) {
-        row[at(last - columns[at(q)])] = -system[rows[at(q)]][free_column];
+        row[last - columns[q]] = -system[rows[q]][free_column];
       }
       generators.add(combination(row, O_));
     }
@@ -79,7 +78,7 @@ class socle_finder {
           system[row + position - R_.begin(d + 1)][c] = 1;
         } else {
           const std::span<const Fp8> form = R_.form(position);
-          for (int e = 0; e < height; ++e) system[row + e][c] = form[at(e)];
+          for (int e = 0; e < height; ++e) system[row + e][c] = form[e];
         }
         row += height;
       }
@@ -101,7 +100,7 @@ void socle(scheme& X) {
   const int top = R.top_degree();
   list<polynomial> generators;
   for (int k = R.begin(top + 1) - 1; k >= R.begin(top); --k) {
-    generators.add(polynomial(X.O[at(k)]));
+    generators.add(polynomial(X.O[k]));
   }
   const socle_finder finder(X);
   for (int d = top - 1; d >= std::max(X.alpha - 1, 1); --d) finder.add_generators(d, generators);

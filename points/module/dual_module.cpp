@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "arith/ordering.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
@@ -38,24 +37,24 @@ dual_module::dual_module(const std::vector<monom>& O, const canonical_forms& R,
 
 // What O[i] * x_v divides, O[i] divides too.
 void dual_module::set_owners() {
-  owner_.assign(at(no_of_members()), -1);
-  for (int a = 0; a < no_of_candidates(); ++a) owner_[at(candidate(a))] = a;
+  owner_.assign(no_of_members(), -1);
+  for (int a = 0; a < no_of_candidates(); ++a) owner_[candidate(a)] = a;
   for (int i = no_of_members() - 1; i >= 0; --i) {
     for (int v = 0; v < dim_; ++v) {
       const auto [in_O, position] = R_.times(i, v);
-      if (in_O) owner_[at(i)] = std::max(owner_[at(i)], owner_[at(position)]);
+      if (in_O) owner_[i] = std::max(owner_[i], owner_[position]);
     }
   }
 }
 
 // Division in O is multiplication here; it stays among the members as long as the owner does.
 void dual_module::set_products() {
-  products_.assign(owner_.size() * at(dim_), {false, -1});
+  products_.assign(owner_.size() * dim_, {false, -1});
   for (int i = 0; i < no_of_members(); ++i) {
     for (int v = 0; v < dim_; ++v) {
       const auto [in_O, position] = R_.times(i, v);
       if (in_O && owner(position) == owner(i)) {
-        products_[at(position) * at(dim_) + at(v)] = {true, i};
+        products_[position * dim_ + v] = {true, i};
       }
     }
   }
@@ -66,7 +65,7 @@ void dual_module::set_border() {
     heed_interrupt();
     for (int v = 0; v < dim_; ++v) {
       if (times(i, v).is_member) continue;
-      const monom exponent = O_[at(i)] / variable(v);
+      const monom exponent = O_[i] / variable(v);
       if (border_index_.emplace(key{exponent, owner(i)}, 0).second) {
         border_.push_back({exponent, owner(i), i, v});
       }
@@ -82,18 +81,18 @@ void dual_module::set_border() {
   for (int i = 0; i < no_of_members(); ++i) {
     heed_interrupt();
     for (int v = 0; v < dim_; ++v) {
-      product& p = products_[at(i) * at(dim_) + at(v)];
-      if (!p.is_member) p.position = find(O_[at(i)] / variable(v), owner(i));
+      product& p = products_[i * dim_ + v];
+      if (!p.is_member) p.position = find(O_[i] / variable(v), owner(i));
     }
   }
 }
 
 void dual_module::set_places() {
-  place_.assign(at(dim_), std::vector<int>(at(no_of_members())));
+  place_.assign(dim_, std::vector<int>(no_of_members()));
   for (int j = 0; j < no_of_members(); ++j) {
     for (int v = 0; v < dim_; ++v) {
       const auto [in_O, position] = R_.times(j, v);
-      place_[at(v)][at(j)] = in_O ? position : no_of_members() + position;
+      place_[v][j] = in_O ? position : no_of_members() + position;
     }
   }
 }
@@ -112,7 +111,7 @@ void dual_module::set_row(int i) {
 
 // The values of member i at the border monomials of O follow from those.
 void dual_module::extend(int i) {
-  const std::size_t first = at(begin(degree_of_member(i)));
+  const std::size_t first = begin(degree_of_member(i));
   Fp8* const row = rows_[i];
   for (int b = 0; b < R_.no_of_border(); ++b) {
     const std::span<const Fp8> form = R_.form(b);
@@ -124,11 +123,11 @@ void dual_module::extend(int i) {
 // Sets the row to the values of x_v * member i at the first so many members of O.
 void dual_module::multiply(Fp8* row, int i, int v, int members) const {
   const Fp8* const values = rows_[i];
-  const std::vector<int>& place = place_[at(v)];
-  for (int j = begin(degree_of_member(i) - 1); j < members; ++j) row[j] = values[place[at(j)]];
+  const std::vector<int>& place = place_[v];
+  for (int j = begin(degree_of_member(i) - 1); j < members; ++j) row[j] = values[place[j]];
 }
 
-monom dual_module::factor(int i) const { return O_[at(candidate(owner(i)))] / O_[at(i)]; }
+monom dual_module::factor(int i) const { return O_[candidate(owner(i))] / O_[i]; }
 
 int dual_module::find(const monom& exponent, int owner) const {
   const auto found = border_index_.find({exponent, owner});
@@ -138,11 +137,11 @@ int dual_module::find(const monom& exponent, int owner) const {
 // Member i is its projection and projections behind it.
 std::vector<Fp8> dual_module::canonical_form(int b, int members) const {
   heed_interrupt();
-  std::vector<Fp8> row(at(members));
+  std::vector<Fp8> row(members);
   multiply(row.data(), border(b).member, border(b).variable, members);
   for (int i = begin(degree(b)); i < members; ++i) {
-    const std::size_t behind = at(i) + 1;
-    axpy(row.data() + behind, rows_[i] + behind, -row[at(i)], row.size() - behind);
+    const std::size_t behind = i + 1;
+    axpy(row.data() + behind, rows_[i] + behind, -row[i], row.size() - behind);
   }
   return row;
 }

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "arith/monom.h"
-#include "base/index.h"
 #include "linalg/matrix.h"
 #include "points/ring/canonical_forms.h"
 
@@ -41,23 +40,23 @@ class dual_module {
   int begin(int d) const { return R_.begin(d); }
   int dimension(int d) const { return R_.dimension(d); }
 
-  int degree_of_member(int i) const { return O_[at(i)].tot_deg(); }
+  int degree_of_member(int i) const { return O_[i].tot_deg(); }
 
   // Member i is factor(i) times the projection of candidate owner(i), an index of the candidates.
-  int owner(int i) const { return owner_[at(i)]; }
+  int owner(int i) const { return owner_[i]; }
   monom factor(int i) const;
 
   int no_of_candidates() const { return static_cast<int>(candidates_.size()); }
 
   // Position of candidate a in O.
-  int candidate(int a) const { return candidates_[at(a)]; }
+  int candidate(int a) const { return candidates_[a]; }
 
   // The product of member i with x_v: the member or the border element at `position`.
   struct product {
     bool is_member;
     int position;
   };
-  product times(int i, int v) const { return products_[at(i) * at(dim_) + at(v)]; }
+  product times(int i, int v) const { return products_[i * dim_ + v]; }
 
   // The border, in rising term order. The element is x_variable * member.
   struct border_element {
@@ -67,7 +66,7 @@ class dual_module {
     int variable = 0;
   };
   int no_of_border() const { return static_cast<int>(border_.size()); }
-  const border_element& border(int b) const { return border_[at(b)]; }
+  const border_element& border(int b) const { return border_[b]; }
   int degree(int b) const { return border(b).exponent.tot_deg(); }
 
   // The border element with this exponent and owner, or -1.

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 
@@ -20,7 +19,7 @@ syzygies_of_degree rewritten(const dual_module& W, int d, std::vector<int> leadi
   syzygies_of_degree S{d, std::move(leading), matrix(n + W.no_of_members(), n)};
   for (int r = 0; r < n; ++r) {
     S.coefs[r][r] = 1;
-    const std::vector<Fp8> form = W.canonical_form(S.leading[at(r)], W.no_of_members());
+    const std::vector<Fp8> form = W.canonical_form(S.leading[r], W.no_of_members());
     axpy(S.coefs[r] + n, form.data(), -Fp8(1), form.size());
   }
   return S;
@@ -51,33 +50,33 @@ std::vector<syzygies_of_degree> rewritten_syzygies(const dual_module& W,
 
 generator_elimination::generator_elimination(const dual_module& W)
     : W_(W),
-      eliminated_(at(W.no_of_candidates())),
-      expression_(at(W.no_of_candidates()), polynomial_row(W.no_of_candidates())) {}
+      eliminated_(W.no_of_candidates()),
+      expression_(W.no_of_candidates(), polynomial_row(W.no_of_candidates())) {}
 
 std::vector<polynomial_row> generator_elimination::eliminate(syzygies_of_degree S) {
   const int n = S.coefs.rows();
-  std::vector<int> eliminates(at(n), -1);
+  std::vector<int> eliminates(n, -1);
   for (int r = 0; r < n; ++r) {
     heed_interrupt();
     const int a = constant_at(S, r);
     if (a < 0) continue;
     clear_column(S.coefs, r, leads(S) + W_.candidate(a));
-    eliminates[at(r)] = a;
+    eliminates[r] = a;
   }
   const raised_dim projective;
   std::vector<polynomial_row> columns;
   for (int r = 0; r < n; ++r) {
-    const int a = eliminates[at(r)];
+    const int a = eliminates[r];
     polynomial_row rest = column(S, r, a);
     if (a < 0) {
       columns.push_back(std::move(rest));
     } else {
       rest *= -Fp8(1);
-      expression_[at(a)] = std::move(rest);
+      expression_[a] = std::move(rest);
     }
   }
   for (const int a : eliminates) {
-    if (a >= 0) eliminated_[at(a)] = true;
+    if (a >= 0) eliminated_[a] = true;
   }
   return columns;
 }
@@ -100,7 +99,7 @@ polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
   for (int k = 0; k < leads(S); ++k) {
     if (row[k] == 0) continue;
     heed_interrupt();
-    const auto& [exponent, owner, member, v] = W_.border(S.leading[at(k)]);
+    const auto& [exponent, owner, member, v] = W_.border(S.leading[k]);
     add_multiple(sum, W_.factor(member) * variable(v), owner, row[k]);
   }
   for (int i = W_.begin(S.degree); i < W_.no_of_members(); ++i) {
@@ -123,7 +122,7 @@ void generator_elimination::add_multiple(std::vector<polynomial_row::term>& sum,
     sum.push_back({factor, candidate, c});
     return;
   }
-  for (const polynomial_row::term& t : expression_[at(candidate)].terms()) {
+  for (const polynomial_row::term& t : expression_[candidate].terms()) {
     sum.push_back({factor * t.m, t.column, c * t.c});
   }
 }

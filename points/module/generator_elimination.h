@@ -38,7 +38,7 @@ class generator_elimination {
   // projective monomials over all candidates.
   std::vector<polynomial_row> eliminate(syzygies_of_degree S);
 
-  bool is_eliminated(int candidate) const { return eliminated_[at(candidate)]; }
+  bool is_eliminated(int candidate) const { return eliminated_[candidate]; }
 
  private:
   int constant_at(const syzygies_of_degree& S, int r) const;

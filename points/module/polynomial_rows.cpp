@@ -19,11 +19,11 @@ bool precedes(const term& a, const term& b) { return monom_ordering_lt(b.m, a.m)
 
 // The terms column by column, those of a column as they stood.
 std::vector<term> by_column(int cols, const std::vector<term>& terms) {
-  std::vector<std::size_t> end(at(cols) + 1);
-  for (const term& t : terms) ++end[at(t.column) + 1];
+  std::vector<std::size_t> end(cols + 1);
+  for (const term& t : terms) ++end[t.column + 1];
   std::partial_sum(end.begin(), end.end(), end.begin());
   std::vector<term> sorted(terms.size());
-  for (const term& t : terms) sorted[end[at(t.column)]++] = t;
+  for (const term& t : terms) sorted[end[t.column]++] = t;
   return sorted;
 }
 
@@ -49,7 +49,7 @@ position sum_up(position first, position last) {
 std::vector<term> terms_of(const std::vector<polynomial>& entries) {
   std::vector<term> terms;
   for (int j = 0; j < static_cast<int>(entries.size()); ++j) {
-    const polynomial& f = entries[at(j)];
+    const polynomial& f = entries[j];
     for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
       terms.push_back({f.term(i), j, f.coef(i)});
     }
@@ -82,7 +82,7 @@ polynomial_row::polynomial_row(const std::vector<polynomial>& entries)
     : polynomial_row(static_cast<int>(entries.size()), terms_of(entries)) {}
 
 std::vector<polynomial> polynomial_row::entries() const {
-  std::vector<polynomial> entries(at(cols_));
+  std::vector<polynomial> entries(cols_);
   for (auto first = terms_.begin(); first != terms_.end();) {
     std::vector<monom> monoms;
     std::vector<Fp8> coefs;
@@ -91,12 +91,12 @@ std::vector<polynomial> polynomial_row::entries() const {
       monoms.push_back(first->m);
       coefs.push_back(first->c);
     }
-    entries[at(column)] = polynomial(std::move(monoms), std::move(coefs));
+    entries[column] = polynomial(std::move(monoms), std::move(coefs));
   }
   return entries;
 }
 
-polynomial polynomial_row::entry(int j) const { return entries()[at(j)]; }
+polynomial polynomial_row::entry(int j) const { return entries()[j]; }
 
 const polynomial_row::term* polynomial_row::leading_term(int j) const {
   const auto lead =
@@ -116,13 +116,13 @@ void polynomial_row::subtract(Fp8 c, const polynomial_row& b) {
 }
 
 void norm(polynomial_matrix& A, int i, int jj) {
-  polynomial_row& row = A[at(i)];
+  polynomial_row& row = A[i];
   row *= Fp8(1) / leading_coefficient(row, jj);
 }
 
 void reduce_c(polynomial_matrix& A, int k, int i, int jj) {
-  polynomial_row& row = A[at(i)];
-  row.subtract(leading_coefficient(row, jj), A[at(k)]);
+  polynomial_row& row = A[i];
+  row.subtract(leading_coefficient(row, jj), A[k]);
 }
 
 std::vector<int> interreduce(polynomial_matrix& A) {
@@ -133,7 +133,7 @@ std::vector<int> interreduce(polynomial_matrix& A) {
   vectors.interreduce();
   std::vector<int> Lt;
   for (int i = 0; i < vectors.count(); ++i) {
-    A[at(i)] = polynomial_row(vectors.components(i));
+    A[i] = polynomial_row(vectors.components(i));
     Lt.push_back(vectors.position(i));
   }
   return Lt;

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "arith/polynomial.h"
-#include "base/index.h"
 
 namespace zep::points {
 

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "arith/ordering.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 
 namespace zep::points {
@@ -13,7 +12,7 @@ namespace zep::points {
 namespace {
 
 // True for the monomials 1 that only fill O up (repeated points).
-bool is_filling(const scheme& X, int i) { return is_el_OO(X, X.O[at(i)]) != i; }
+bool is_filling(const scheme& X, int i) { return is_el_OO(X, X.O[i]) != i; }
 
 bool is_maximal(const scheme& X, const monom& t) {
   for (int v = 0; v < dim; ++v) {
@@ -24,9 +23,9 @@ bool is_maximal(const scheme& X, const monom& t) {
 
 std::vector<syzygy_monomial> unpruned(const scheme& X, const std::vector<int>& candidates) {
   const int k = static_cast<int>(candidates.size());
-  const auto t = [&](int a) -> const monom& { return X.O[at(candidates[at(a)])]; };
+  const auto t = [&](int a) -> const monom& { return X.O[candidates[a]]; };
   std::vector<syzygy_monomial> all;
-  all.reserve(at(k) * at(k) / 2 + at(k) * at(dim));
+  all.reserve(candidates.size() * (candidates.size() / 2 + dim));
   for (int a = 0; a < k; ++a) {
     heed_interrupt();
     for (int b = a + 1; b < k; ++b) all.push_back({t(a) / gcd(t(a), t(b)), a});
@@ -45,7 +44,7 @@ std::vector<syzygy_monomial> unpruned(const scheme& X, const std::vector<int>& c
 // The indices of the monomials of one owner that stay. In the order of rising degrees, and of
 // falling indices among equal ones, everything that can drop a monomial stands before it.
 std::vector<int> minimal_ones(const std::vector<syzygy_monomial>& all, std::vector<int> indices) {
-  const auto T = [&](int i) -> const monom& { return all[at(i)].T; };
+  const auto T = [&](int i) -> const monom& { return all[i].T; };
   std::sort(indices.begin(), indices.end(), [&](int i, int j) {
     const int difference = T(i).tot_deg() - T(j).tot_deg();
     return difference != 0 ? difference < 0 : i > j;
@@ -66,7 +65,7 @@ std::vector<int> candidate_projections(const scheme& X) {
   std::vector<int> candidates;
   for (int i = 0; i < X.s; ++i) {
     heed_interrupt();
-    if (!is_filling(X, i) && is_maximal(X, X.O[at(i)])) candidates.push_back(i);
+    if (!is_filling(X, i) && is_maximal(X, X.O[i])) candidates.push_back(i);
   }
   return candidates;
 }
@@ -75,7 +74,7 @@ std::vector<syzygy_monomial> syzygy_monomials(const scheme& X, const std::vector
   const std::vector<syzygy_monomial> all = unpruned(X, candidates);
   std::vector<std::vector<int>> owned(candidates.size());
   for (std::size_t i = 0; i < all.size(); ++i) {
-    owned[at(all[i].owner)].push_back(static_cast<int>(i));
+    owned[all[i].owner].push_back(static_cast<int>(i));
   }
   std::vector<int> kept;
   for (std::vector<int>& indices : owned) {
@@ -85,7 +84,7 @@ std::vector<syzygy_monomial> syzygy_monomials(const scheme& X, const std::vector
   std::sort(kept.begin(), kept.end());
   std::vector<syzygy_monomial> found;
   found.reserve(kept.size());
-  for (const int i : kept) found.push_back(all[at(i)]);
+  for (const int i : kept) found.push_back(all[i]);
   return found;
 }
 

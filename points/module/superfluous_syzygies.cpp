@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <utility>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
@@ -18,7 +17,7 @@ using row = std::vector<Fp8>;
 class border_forms {
  public:
   explicit border_forms(const dual_module& W) : W_(W) {
-    forms_.reserve(at(W.no_of_border()));
+    forms_.reserve(W.no_of_border());
     for (int b = 0; b < W.no_of_border(); ++b) {
       const row all = W.canonical_form(b, W.begin(W.degree(b) + 1));
       forms_.emplace_back(all.begin() + W.begin(W.degree(b)), all.end());
@@ -28,7 +27,7 @@ class border_forms {
   // Calls use(coefficient, border element) for the border elements in x_v * (form of border b).
   template <class Use>
   void for_each_border_product(int b, int v, Use use) const {
-    const row& form = forms_[at(b)];
+    const row& form = forms_[b];
     const int first = W_.begin(W_.degree(b));
     for (std::size_t i = 0; i < form.size(); ++i) {
       if (form[i] == 0) continue;
@@ -49,10 +48,10 @@ class constants_of_degree {
   constants_of_degree(const dual_module& W, const border_forms& forms,
                       const std::vector<int>& leading, int first_border, int end_border)
       : W_(W), forms_(forms), size_(leading.size()), first_border_(first_border) {
-    const std::size_t size = at(end_border - first_border);
+    const std::size_t size = end_border - first_border;
     syzygy_.assign(size, -1);
     for (std::size_t i = 0; i < size_; ++i) {
-      syzygy_[at(leading[i] - first_border)] = static_cast<int>(i);
+      syzygy_[leading[i] - first_border] = static_cast<int>(i);
     }
     of_border_.reserve(size);
     for (int b = first_border; b < end_border; ++b) {
@@ -73,8 +72,8 @@ class constants_of_degree {
   // The constants with which the syzygies express border element b minus its canonical form.
   row border_row(int b) const {
     row sum(size_);
-    if (const int i = syzygy_[at(b - first_border_)]; i >= 0) {
-      sum[at(i)] = 1;
+    if (const int i = syzygy_[b - first_border_]; i >= 0) {
+      sum[i] = 1;
     } else if (const auto [below, v] = origin(b); below >= 0) {
       add_products(sum, below, v, Fp8(1));
     }
@@ -96,7 +95,7 @@ class constants_of_degree {
   // Adds c times the constants of x_v * (form of border element b).
   void add_products(row& sum, int b, int v, Fp8 c) const {
     forms_.for_each_border_product(b, v, [&](Fp8 coef, int position) {
-      axpy(sum.data(), of_border_[at(position - first_border_)].data(), c * coef, sum.size());
+      axpy(sum.data(), of_border_[position - first_border_].data(), c * coef, sum.size());
     });
   }
 

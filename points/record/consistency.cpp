@@ -7,7 +7,6 @@
 
 #include "arith/ordering.h"
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/paranoid.h"
 
 namespace zep::points {
@@ -57,8 +56,8 @@ bool is_border(const scheme& X, const std::vector<monom>& O) {
       if (is_el_OO(X, t * variable(v)) >= 0) continue;
       const int b = is_el_B(X, t * variable(v));
       if (b < 0) return false;
-      if (!seen[at(b)]) ++reached;
-      seen[at(b)] = true;
+      if (!seen[b]) ++reached;
+      seen[b] = true;
     }
   }
   return reached == X.B.size();
@@ -66,9 +65,9 @@ bool is_border(const scheme& X, const std::vector<monom>& O) {
 
 // The separators are the values of the polynomial 1 at the points, put together again.
 bool add_up_to_one(const matrix& separators) {
-  std::vector<Fp8> sum(at(separators.cols()));
+  std::vector<Fp8> sum(separators.cols());
   for (int i = 0; i < separators.rows(); ++i) {
-    for (int j = 0; j < separators.cols(); ++j) sum[at(j)] += separators[i][j];
+    for (int j = 0; j < separators.cols(); ++j) sum[j] += separators[i][j];
   }
   return sum.empty() || (sum.front() == 1 &&
                          std::all_of(sum.begin() + 1, sum.end(), [](Fp8 c) { return c == 0; }));
@@ -85,7 +84,7 @@ bool is_reduced(const scheme& X) {
 }
 
 void ensure_bu_mo(const scheme& X) {
-  ensure("O has one member for each point", [&] { return X.O.size() == at(X.s); });
+  ensure("O has one member for each point", [&] { return std::ssize(X.O) == X.s; });
   const std::vector<monom> O = members(X);
   ensure("O and its border ascend", [&] { return ascends(O) && ascends(X.B); });
   ensure("O is closed under division", [&] { return is_closed_under_division(X, O); });
@@ -106,7 +105,7 @@ void ensure_presentation(const scheme& X) {
   ensure("the relations are counted by degree",
          [&] { return X.A_d_coldeg.empty() || total(X.A_d_coldeg) == X.A_d_cols; });
   ensure("there is an entry for each generator and relation",
-         [&] { return X.A_d.size() == X.pr.size() * at(X.A_d_cols); });
+         [&] { return X.A_d.size() == X.pr.size() * X.A_d_cols; });
 }
 
 }  // namespace
@@ -115,19 +114,19 @@ void ensure_consistent(const scheme& X) {
   if constexpr (!paranoid) return;
   ensure("there is one row for each point", [&] { return X.P.rows() == X.s; });
   ensure("H and its difference function have s entries",
-         [&] { return X.hilb_fct.size() == at(X.s) && X.delta_fct.size() == at(X.s); });
+         [&] { return std::ssize(X.hilb_fct) == X.s && std::ssize(X.delta_fct) == X.s; });
   ensure("nothing comes before the Buchberger-Moeller algorithm", [&] {
     return X.has_bu_mo ||
            (X.sep == 0 && !X.beta_matrix && !X.Can_Lf && X.pr.empty() && X.linid == 0);
   });
   if (X.has_bu_mo) ensure_bu_mo(X);
   ensure("the beta matrix comes after the separators",
-         [&] { return !X.beta_matrix || (X.sep == 1 && X.basis.size() == at(X.delta)); });
+         [&] { return !X.beta_matrix || (X.sep == 1 && std::ssize(X.basis) == X.delta); });
   ensure("generators and socle come after the canonical forms",
          [&] { return (!X.min_Ix && !X.socle) || X.Can_Lf; });
   ensure_presentation(X);
   ensure("the rows of linear strands have an entry for each variable",
-         [&] { return X.linres[0].size() == at(dim) && X.linres[1].size() == at(dim); });
+         [&] { return std::ssize(X.linres[0]) == dim && std::ssize(X.linres[1]) == dim; });
 }
 
 }  // namespace zep::points

@@ -4,7 +4,6 @@
 #include <istream>
 #include <ostream>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 
 namespace zep::points {
@@ -12,11 +11,11 @@ namespace zep::points {
 scheme::scheme(int ss)
     : s(std::max(ss, 0)),
       P(dim, s),
-      O(at(s)),
+      O(s),
       separator(0, 0),
-      hilb_fct(at(s)),
-      delta_fct(at(s)),
-      linres{std::vector<int>(at(dim)), std::vector<int>(at(dim))} {}
+      hilb_fct(s),
+      delta_fct(s),
+      linres{std::vector<int>(dim), std::vector<int>(dim)} {}
 
 polynomial groebner_element(const scheme& X, int g) { return X.Ix->gen(g, X.O); }
 
@@ -30,11 +29,11 @@ int is_el_O(const scheme& X, const monom& t) {
   if (degree < 0 || degree > X.sigma + 1) return -1;
   const int i = X.O_index.find(t);
   if (i < 0) return -1;
-  return i >= X.hilb_fct[at(degree - 1)] && i < X.hilb_fct[at(degree)] ? i : -1;
+  return i >= X.hilb_fct[degree - 1] && i < X.hilb_fct[degree] ? i : -1;
 }
 
 int separator_degree(const scheme& X, int i) {
-  return X.O[at(leading_position(X.separator.row(i)))].tot_deg();
+  return X.O[leading_position(X.separator.row(i))].tot_deg();
 }
 
 int is_el_G(const scheme& X, const monom& t) { return X.Ix->find(t); }

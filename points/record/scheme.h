@@ -6,7 +6,6 @@
 #include <optional>
 #include <vector>
 
-#include "base/index.h"
 #include "linalg/matrix.h"
 #include "points/ring/canonical_forms.h"
 #include "points/ring/groebner_basis.h"
@@ -104,7 +103,7 @@ inline int no_of_border(const scheme& X) { return static_cast<int>(X.B.size()); 
 
 // The entry of relation j at generator i of the canonical module.
 inline const polynomial& entry_of_A_d(const scheme& X, int i, int j) {
-  return X.A_d[at(i) * at(X.A_d_cols) + at(j)];
+  return X.A_d[static_cast<std::size_t>(i) * X.A_d_cols + j];
 }
 
 // Number of generators of the canonical module. 0 before `omega`, and without points.

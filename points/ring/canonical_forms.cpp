@@ -30,7 +30,7 @@ canonical_forms::canonical_forms(quotient ring, const std::vector<monom>& O,
 }
 
 int canonical_forms::begin(int d) const {
-  return d < 0 ? 0 : begin_[std::min(at(d), begin_.size() - 1)];
+  return d < 0 ? 0 : begin_[std::min(d, top_degree() + 1)];
 }
 
 // The members of O are ascending; behind the first descent, or a second 1, is nothing but filling.
@@ -47,11 +47,11 @@ void canonical_forms::set_degrees(const std::vector<monom>& O) {
 
 void canonical_forms::set_table(const std::vector<monom>& O, const monom_index& O_index,
                                 const monom_index& B_index) {
-  table_.reserve(at(begin_.back()) * at(dim_));
+  table_.reserve(static_cast<std::size_t>(begin_.back()) * dim_);
   for (int i = 0; i < begin_.back(); ++i) {
     heed_interrupt();
     for (int v = 0; v < dim_; ++v) {
-      const monom t = O[at(i)] * variable(v);
+      const monom t = O[i] * variable(v);
       const int position = O_index.find(t);
       table_.push_back(position >= 0 ? product{true, position} : product{false, B_index.find(t)});
     }
@@ -62,11 +62,11 @@ void canonical_forms::set_table(const std::vector<monom>& O, const monom_index& 
 void canonical_forms::add_form(const monom& t, const monom_index& B_index,
                                const groebner_basis& Ix) {
   const int d = t.tot_deg();
-  std::vector<Fp8> row(at(begin(d + 1) - first(d)));
+  std::vector<Fp8> row(begin(d + 1) - first(d));
   origin from{-1, -1};
   if (const int g = Ix.find(t); g >= 0) {
     const std::span<const Fp8> tail = Ix.tail(g);
-    const std::size_t start = std::min(at(first(d)), tail.size());
+    const std::size_t start = std::min<std::size_t>(first(d), tail.size());
     std::copy(tail.begin() + static_cast<std::ptrdiff_t>(start), tail.end(), row.begin());
     scale(row.data(), -Fp8(1), row.size());
   } else {
@@ -86,7 +86,7 @@ void canonical_forms::add_product(std::span<Fp8> sum, std::span<const Fp8> row, 
                                   int v) const {
   for_each_product(row, d, v, [&](Fp8 c, product p) {
     if (p.in_O) {
-      sum[at(p.position - first(d + 1))] += c;
+      sum[p.position - first(d + 1)] += c;
     } else {
       const std::span<const Fp8> canonical = form(p.position);
       axpy(sum.data(), canonical.data(), c, canonical.size());

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "arith/Fp8.h"
-#include "base/index.h"
 #include "points/ring/groebner_basis.h"
 
 namespace zep::points {
@@ -48,12 +47,12 @@ class canonical_forms {
     bool in_O;
     int position;
   };
-  product times(int i, int v) const { return table_[at(i) * at(dim_) + at(v)]; }
+  product times(int i, int v) const { return table_[i * dim_ + v]; }
 
   int no_of_border() const { return static_cast<int>(forms_.size()); }
 
   // The canonical form of border monomial b, a row of its degree.
-  std::span<const Fp8> form(int b) const { return forms_[at(b)]; }
+  std::span<const Fp8> form(int b) const { return forms_[b]; }
 
   // The border monomial that border monomial b was reached from, times which variable; `border` is
   // -1 for one that leads a Groebner basis element and was reached from nothing.
@@ -61,7 +60,7 @@ class canonical_forms {
     int border;
     int variable;
   };
-  origin origin_of(int b) const { return origins_[at(b)]; }
+  origin origin_of(int b) const { return origins_[b]; }
 
   // Calls use(coefficient, product) for every term of x_v * row, a row of degree d.
   template <class Use>

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "base/index.h"
-
 namespace zep::points {
 
 namespace {
@@ -40,7 +38,7 @@ groebner_basis::groebner_basis(std::vector<monom> leads, std::vector<std::vector
 polynomial groebner_basis::gen(int g, const std::vector<monom>& O) const {
   std::vector<monom> term{lead(g)};
   std::vector<Fp8> coef{Fp8(1)};
-  append_terms(term, coef, tails_[at(g)], O);
+  append_terms(term, coef, tails_[g], O);
   return {std::move(term), std::move(coef)};
 }
 

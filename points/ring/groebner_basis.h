@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "arith/polynomial.h"
-#include "base/index.h"
 #include "points/ring/monom_index.h"
 
 namespace zep::points {
@@ -30,11 +29,11 @@ class groebner_basis {
   int no_of_gens() const { return static_cast<int>(leads_.size()); }
 
   // Leading monomial of element g, 0 <= g < no_of_gens().
-  const monom& lead(int g) const { return leads_[at(g)]; }
+  const monom& lead(int g) const { return leads_[g]; }
 
   // The coefficients over O of element g without its leading monomial, up to the last member of O
   // below that monomial.
-  std::span<const Fp8> tail(int g) const { return tails_[at(g)]; }
+  std::span<const Fp8> tail(int g) const { return tails_[g]; }
 
   // Element g.
   polynomial gen(int g, const std::vector<monom>& O) const;

@@ -48,24 +48,24 @@ void form_vectors::drop_zero_vectors() {
 
 int form_vectors::position(int i) const {
   const compact_row& v = vector(i);
-  return v.is_zero() ? -1 : static_cast<int>(v.pivot() % at(rank_));
+  return v.is_zero() ? -1 : static_cast<int>(v.pivot() % rank_);
 }
 
 const monom& form_vectors::leading_monomial(int i) const {
-  return monomials_[vector(i).pivot() / at(rank_)];
+  return monomials_[vector(i).pivot() / rank_];
 }
 
 std::vector<polynomial> form_vectors::components(int i) const {
-  std::vector<std::vector<monom>> terms(at(rank_));
-  std::vector<std::vector<Fp8>> coefs(at(rank_));
+  std::vector<std::vector<monom>> terms(rank_);
+  std::vector<std::vector<Fp8>> coefs(rank_);
   vector(i).for_each([&](std::size_t place, Fp8 c) {
-    terms[place % at(rank_)].push_back(monomials_[place / at(rank_)]);
-    coefs[place % at(rank_)].push_back(c);
+    terms[place % rank_].push_back(monomials_[place / rank_]);
+    coefs[place % rank_].push_back(c);
   });
   std::vector<polynomial> result;
-  result.reserve(at(rank_));
+  result.reserve(rank_);
   for (int k = 0; k < rank_; ++k) {
-    result.emplace_back(std::move(terms[at(k)]), std::move(coefs[at(k)]));
+    result.emplace_back(std::move(terms[k]), std::move(coefs[k]));
   }
   return result;
 }
@@ -73,7 +73,7 @@ std::vector<polynomial> form_vectors::components(int i) const {
 std::vector<monom> projective_variables() {
   const raised_dim projective;
   std::vector<monom> variables;
-  variables.reserve(at(dim));
+  variables.reserve(dim);
   for (int v = 0; v < dim; ++v) variables.push_back(variable(v));
   return variables;
 }
@@ -85,14 +85,14 @@ form_vectors vectors_of(std::vector<std::vector<polynomial>> components, int ran
   for (const auto& [m, number] : numbers) monomials.push_back(m);
   std::vector<compact_row> vectors;
   vectors.reserve(components.size());
-  std::vector<Fp8> row(monomials.size() * at(rank));
+  std::vector<Fp8> row(monomials.size() * rank);
   for (std::vector<polynomial>& vector : components) {
     heed_interrupt();
     std::fill(row.begin(), row.end(), Fp8(0));
     for (int k = 0; k < rank; ++k) {
-      const polynomial& f = vector[at(k)];
+      const polynomial& f = vector[k];
       for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
-        row[numbers.at(f.term(i)) * at(rank) + at(k)] = f.coef(i);
+        row[static_cast<std::size_t>(numbers.at(f.term(i))) * rank + k] = f.coef(i);
       }
     }
     vectors.emplace_back(row);

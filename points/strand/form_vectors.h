@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "arith/polynomial.h"
-#include "base/index.h"
 #include "linalg/compact_row.h"
 
 namespace zep::points {
@@ -27,14 +26,14 @@ class form_vectors {
   int no_of_nonzero() const;
 
   const std::vector<monom>& monomials() const { return monomials_; }
-  const compact_row& vector(int i) const { return vectors_[at(i)]; }
+  const compact_row& vector(int i) const { return vectors_[i]; }
 
   // Position of the first term of vector i, -1 for a zero vector; its monomial, if there is one.
   int position(int i) const;
   const monom& leading_monomial(int i) const;
 
   // Length of the rows.
-  std::size_t width() const { return monomials_.size() * at(rank_); }
+  std::size_t width() const { return monomials_.size() * rank_; }
 
   // Makes the vectors triangular: no two have the same first term then, and its coefficient is 1.
   void interreduce() { triangulate(vectors_, width()); }

@@ -54,7 +54,7 @@ class product_numbers {
 
   // The number of x_v times the monomial with the given number.
   std::size_t operator()(int v, std::size_t number) const {
-    return numbers_[at(v) * factors_ + number];
+    return numbers_[v * factors_ + number];
   }
 
  private:
@@ -105,8 +105,8 @@ class pair_reduction {
 pair_reduction::pair_reduction(const form_vectors& G)
     : G_(G),
       products_(G.monomials()),
-      multiples_(at(G.count()) * at(proj)),
-      multiple_at_(products_.size() * at(G.rank())),
+      multiples_(static_cast<std::size_t>(G.count()) * proj),
+      multiple_at_(products_.size() * G.rank()),
       leftover_at_(multiple_at_.size(), -1),
       W_(multiple_at_.size()),
       S_(multiples_.size()) {
@@ -119,14 +119,14 @@ pair_reduction::pair_reduction(const form_vectors& G)
 
 std::size_t pair_reduction::place_of_first_term(const multiple& m) const {
   const std::size_t place = G_.vector(m.vector).pivot();
-  const std::size_t rank = at(G_.rank());
+  const std::size_t rank = G_.rank();
   return products_(m.variable, place / rank) * rank + place % rank;
 }
 
 const compact_row& pair_reduction::row_of(const multiple& m) {
-  std::optional<compact_row>& row = multiples_[at(m.vector) * at(proj) + at(m.variable)];
+  std::optional<compact_row>& row = multiples_[m.vector * proj + m.variable];
   if (!row) {
-    const std::size_t rank = at(G_.rank());
+    const std::size_t rank = G_.rank();
     std::vector<std::uint32_t> places;
     std::vector<Fp8> values;
     G_.vector(m.vector).for_each([&](std::size_t place, Fp8 c) {
@@ -142,7 +142,7 @@ const compact_row& pair_reduction::row_of(const multiple& m) {
 // Subtracts c times the multiple from the difference, and notes that.
 void pair_reduction::subtract(const multiple& m, Fp8 c) {
   row_of(m).subtract_from(W_.data(), c);
-  S_[at(m.variable) * at(G_.count()) + at(m.vector)] -= c;
+  S_[m.variable * G_.count() + m.vector] -= c;
 }
 
 compact_row pair_reduction::syzygy(const linear_pair& pair) {
@@ -155,7 +155,7 @@ compact_row pair_reduction::syzygy(const linear_pair& pair) {
     place += first_nonzero(W_.data() + place, W_.size() - place);
     if (place == W_.size()) return compact_row(S_);
     if (leftover_at_[place] >= 0) {
-      const auto& [W, S] = leftovers_[at(leftover_at_[place])];
+      const auto& [W, S] = leftovers_[leftover_at_[place]];
       const Fp8 c = W_[place];
       W.subtract_from(W_.data(), c);
       S.subtract_from(S_.data(), c);
@@ -199,18 +199,18 @@ std::vector<linear_pair> pairs_of_generators(const form_vectors& G) {
 }
 
 std::vector<linear_pair> pairs_of_linear_vectors(const form_vectors& G) {
-  std::vector<std::vector<int>> at_position(at(G.rank()));
+  std::vector<std::vector<int>> at_position(G.rank());
   std::vector<linear_pair> pairs;
   for (int i = 0; i < G.count(); ++i) {
-    if (G.position(i) >= 0) at_position[at(G.position(i))].push_back(i);
+    if (G.position(i) >= 0) at_position[G.position(i)].push_back(i);
   }
   std::vector<std::size_t> taken(at_position.size());
   for (int i = 0; i < G.count(); ++i) {
     const int position = G.position(i);
     if (position < 0) continue;
-    const std::vector<int>& same = at_position[at(position)];
+    const std::vector<int>& same = at_position[position];
     heed_interrupt();
-    for (std::size_t k = ++taken[at(position)]; k < same.size(); ++k) {
+    for (std::size_t k = ++taken[position]; k < same.size(); ++k) {
       pairs.push_back({i, same[k], number_of_variable(G.leading_monomial(same[k])),
                        number_of_variable(G.leading_monomial(i))});
     }

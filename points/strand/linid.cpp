@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "base/reporter.h"
@@ -48,10 +47,10 @@ using level_action = std::function<void(int level, const form_vectors& vectors)>
 
 void compute(scheme& X, const level_action& act) {
   min_Ix(X);
-  std::vector<int> numbers(at(dim));
+  std::vector<int> numbers(dim);
   strand_of_generators(least_generators(X), [&](int level, const form_vectors& vectors) {
     const int number = vectors.no_of_nonzero();
-    if (level < dim) numbers[at(level)] = number;
+    if (level < dim) numbers[level] = number;
     report_level(X, level, number);
     act(level, vectors);
     return true;

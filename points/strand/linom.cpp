@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "base/reporter.h"
@@ -23,7 +22,7 @@ namespace {
 
 // Number of generators with a monomial of the largest degree. They are the last ones.
 int no_of_least_generators(const scheme& X) {
-  const auto degree = [&](int position) { return X.O[at(position)].tot_deg(); };
+  const auto degree = [&](int position) { return X.O[position].tot_deg(); };
   return static_cast<int>(std::count_if(X.pr.begin(), X.pr.end(), [&](int position) {
     return degree(position) == degree(X.pr.back());
   }));
@@ -40,7 +39,7 @@ form_vectors linear_relations(const scheme& X, int rank) {
   for (int j = 0; j < X.A_d_cols; ++j) {
     heed_interrupt();
     std::vector<polynomial> last;
-    last.reserve(at(rank));
+    last.reserve(rank);
     for (int i = no_of_pr(X) - rank; i < no_of_pr(X); ++i) {
       last.push_back(entry_of_A_d(X, i, j));
     }
@@ -52,13 +51,13 @@ form_vectors linear_relations(const scheme& X, int rank) {
 void compute(scheme& X, const level_report& act) {
   need_omega(X);
   const int rank = no_of_least_generators(X);
-  std::vector<int> numbers(at(dim));
+  std::vector<int> numbers(dim);
   numbers.back() = rank;
   report("w_R has " + std::to_string(rank) + " generators in degree " + std::to_string(-X.sigma) +
          "\n");
   strand_of_relations(linear_relations(X, rank), [&](int level, const form_vectors& vectors) {
     const int number = vectors.no_of_nonzero();
-    if (level < dim) numbers[at(dim - 1 - level)] = number;
+    if (level < dim) numbers[dim - 1 - level] = number;
     report(std::to_string(number) + " syzygies in degree " + std::to_string(-X.sigma - level) +
            " found\n");
     return act(level, vectors);
@@ -117,7 +116,7 @@ void disp_linom(std::ostream& out, scheme& X) {
 
 void disp_linres(std::ostream& out, scheme& X) {
   const int n = static_cast<int>(X.linres[0].size());
-  std::vector<int> widths(at(n));
+  std::vector<int> widths(n);
   std::transform(X.linres[0].begin(), X.linres[0].end(), X.linres[1].begin(), widths.begin(),
                  [](int a, int b) { return std::max(column_width(a), column_width(b)); });
   const strand_table table(std::move(widths));

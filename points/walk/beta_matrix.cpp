@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "base/reporter.h"
@@ -22,7 +21,7 @@ namespace {
 class leading_forms {
  public:
   explicit leading_forms(const scheme& X)
-      : beta(X.delta, X.s), forms_(X.delta, X.s), of_basis_(X.delta, X.delta), in_basis_(at(X.s)) {
+      : beta(X.delta, X.s), forms_(X.delta, X.s), of_basis_(X.delta, X.delta), in_basis_(X.s) {
     for (int i = 0; i < X.s; ++i) {
       heed_interrupt();
       const auto row = X.separator.row(i);
@@ -36,14 +35,14 @@ class leading_forms {
     int pivot = -1;
     for (int i = 0; i < beta.rows(); ++i) {
       heed_interrupt();
-      if (in_basis_[at(i)] || forms_[i][column] == 0) continue;
+      if (in_basis_[i] || forms_[i][column] == 0) continue;
       if (pivot < 0) {
         pivot = i;
         join(i);
       } else {
         const Fp8 c = forms_[i][column] / forms_[pivot][column];
-        axpy(forms_[i], forms_[pivot], -c, at(column + 1));
-        axpy(beta[i], of_basis_[last()], c, at(last() + 1));
+        axpy(forms_[i], forms_[pivot], -c, column + 1);
+        axpy(beta[i], of_basis_[last()], c, last() + 1);
       }
     }
   }
@@ -64,7 +63,7 @@ class leading_forms {
     of_basis_[b][b] = 1;
     beta[i][b] = 1;
     basis.push_back(i);
-    in_basis_[at(i)] = true;
+    in_basis_[i] = true;
   }
 
   matrix forms_;
@@ -86,7 +85,7 @@ void beta_matrix(scheme& X) {
   countdown.end_line();
 
   // Meaningless data may leave the basis short.
-  forms.basis.resize(at(X.delta));
+  forms.basis.resize(X.delta);
   X.beta_matrix = std::move(forms.beta);
   X.basis = std::move(forms.basis);
   ensure_consistent(X);

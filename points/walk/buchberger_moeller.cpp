@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "arith/candidate.h"
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "base/output.h"
 #include "base/reporter.h"
@@ -34,7 +33,7 @@ class monomial_walk {
  public:
   monomial_walk(const matrix& points, const progress& countdown)
       : separators(points.rows()),
-        s_(at(points.rows())),
+        s_(points.rows()),
         coordinates_(transposed(points)),
         countdown_(countdown) {
     O.reserve(s_);
@@ -73,9 +72,9 @@ class monomial_walk {
   // to reach each of them.
   std::vector<mmm> multiples_of_members_from(std::size_t first) const {
     std::vector<mmm> products;
-    products.reserve((O.size() - first) * at(dim));
+    products.reserve((O.size() - first) * dim);
     for (int n = static_cast<int>(first); n < size(); ++n) {
-      for (int k = 0; k < dim; ++k) products.push_back({O[at(n)] * variable(k), n, k, 1});
+      for (int k = 0; k < dim; ++k) products.push_back({O[n] * variable(k), n, k, 1});
     }
     std::sort(products.begin(), products.end());
     std::size_t kept = 0;
@@ -138,7 +137,7 @@ class monomial_walk {
   std::vector<Fp8> values_of(const mmm& m) const {
     std::vector<Fp8> values(s_, Fp8(1));
     if (m.n >= 0) {
-      pointwise_product(values.data(), values_before_[at(m.n - first_before_)].data(),
+      pointwise_product(values.data(), values_before_[m.n - first_before_].data(),
                         coordinates_[m.k], s_);
     }
     return values;
@@ -163,7 +162,7 @@ void bu_mo(scheme& X) {
   countdown.end_line();
   std::cout << Line;
 
-  walk.O.resize(at(X.s));
+  walk.O.resize(X.s);
   monom_index O_index(walk.O);
   monom_index B_index(walk.B);
   matrix separator = walk.separators.separators();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 
 namespace zep::points {
@@ -29,17 +28,15 @@ bool has_symmetric_hilbert_function(const scheme& X) {
 
 int hilbert_function(const scheme& X, int n) {
   if (n < 0) return 0;
-  return n < X.s ? X.hilb_fct[at(n)] : X.s;
+  return n < X.s ? X.hilb_fct[n] : X.s;
 }
 
-int difference_function(const scheme& X, int n) {
-  return n >= 0 && n < X.s ? X.delta_fct[at(n)] : 0;
-}
+int difference_function(const scheme& X, int n) { return n >= 0 && n < X.s ? X.delta_fct[n] : 0; }
 
 void hilbert(scheme& X) {
   std::fill(X.delta_fct.begin(), X.delta_fct.end(), 0);
-  for (const monom& t : X.O) ++X.delta_fct[at(t.tot_deg())];
-  for (int n = 0; n < X.s && X.delta_fct[at(n)] != 0; ++n) X.sigma = n - 1;
+  for (const monom& t : X.O) ++X.delta_fct[t.tot_deg()];
+  for (int n = 0; n < X.s && X.delta_fct[n] != 0; ++n) X.sigma = n - 1;
   X.delta = difference_function(X, X.sigma + 1);
   X.alpha = X.Ix->no_of_gens() > 0 ? X.Ix->lead(0).tot_deg() : 0;
   std::partial_sum(X.delta_fct.begin(), X.delta_fct.end(), X.hilb_fct.begin());

@@ -4,14 +4,13 @@
 #include <iterator>
 #include <utility>
 
-#include "base/index.h"
 #include "base/interrupt.h"
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
 
 namespace zep::points {
 
-separator_table::separator_table(int s) : s_(at(s)), free_(identity_order(s)) {
+separator_table::separator_table(int s) : s_(s), free_(identity_order(s)) {
   separators_.reserve(s_);
   pivots_.reserve(s_);
 }
@@ -47,7 +46,7 @@ std::vector<separator_table::verdict> separator_table::take(std::vector<std::vec
 std::vector<Fp8> separator_table::coefficients(const std::vector<Fp8>& row) const {
   std::vector<Fp8> over_members;
   over_members.reserve(pivots_.size());
-  for (const int p : pivots_) over_members.push_back(row[at(p)]);
+  for (const int p : pivots_) over_members.push_back(row[p]);
   return over_members;
 }
 

@@ -6,7 +6,6 @@
 #include <random>
 #include <vector>
 
-#include "base/index.h"
 #include "linalg/kernels/bounds.h"
 #include "tests/draw.h"
 #include "tests/linalg/variant_in_force.h"

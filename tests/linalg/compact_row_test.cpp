@@ -5,7 +5,6 @@
 #include <optional>
 #include <random>
 
-#include "base/index.h"
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
@@ -135,7 +134,7 @@ TEST(Triangulate, GivesWhatTheRuleGivesOnFullRows) {
   for (const int p : {2, 3, 4, 6, 101, 250, 251}) {
     const ring_in_force ring(p);
     for (int round = 0; round < 60; ++round) {
-      const std::size_t width = at(1 + below(random, 40));
+      const std::size_t width = 1 + below(random, 40);
       const int rarity = 1 + below(random, 12);
       std::vector<row> expected;
       std::vector<compact_row> rows;

@@ -7,7 +7,6 @@
 #include <random>
 #include <vector>
 
-#include "base/index.h"
 #include "tests/draw.h"
 #include "tests/plain_echelon.h"
 #include "tests/ring_in_force.h"
@@ -22,10 +21,10 @@ using subset = std::vector<int>;
 bool advance(subset& c, int s, std::vector<int>& advances) {
   const int k = static_cast<int>(c.size());
   for (int i = 0; i < k; ++i) {
-    ++c[at(i)];
-    if (i == k - 1) advances.push_back(c[at(i)]);
-    if (c[at(i)] != (i == k - 1 ? s : c[at(i + 1)])) return true;
-    c[at(i)] = i;
+    ++c[i];
+    if (i == k - 1) advances.push_back(c[i]);
+    if (c[i] != (i == k - 1 ? s : c[i + 1])) return true;
+    c[i] = i;
   }
   return false;
 }
@@ -40,8 +39,8 @@ struct walk_result {
 // Every subset from scratch.
 walk_result plain_walk(const matrix& m, int k) {
   walk_result result;
-  subset c(at(k));
-  for (int i = 0; i < k; ++i) c[at(i)] = i;
+  subset c(k);
+  for (int i = 0; i < k; ++i) c[i] = i;
   do {
     plain_echelon rows;
     for (const int i : c) {
@@ -104,7 +103,7 @@ TEST(DependentSubset, FindsDependenceThatIsHiddenInOnePlace) {
     std::shuffle(rows.begin(), rows.end(), random);
     for (int j = 0; j < 4; ++j) {
       Fp8 sum;
-      for (int i = 1; i < k; ++i) sum += m[rows[at(i)]][j];
+      for (int i = 1; i < k; ++i) sum += m[rows[i]][j];
       m[rows[0]][j] = sum;
     }
     EXPECT_EQ(fast_walk(m, k), plain_walk(m, k));
@@ -180,7 +179,7 @@ TEST(DependentSubset, AgreesWithTheSolutionSpacesOfTheChosenRows) {
     do {
       matrix chosen(5, k);
       for (int i = 0; i < k; ++i) {
-        std::copy(m.row(c[at(i)]).begin(), m.row(c[at(i)]).end(), chosen[i]);
+        std::copy(m.row(c[i]).begin(), m.row(c[i]).end(), chosen[i]);
       }
       std::vector<int> columns = identity_order(5);
       std::vector<int> rows = identity_order(k);

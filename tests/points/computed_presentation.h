@@ -31,7 +31,7 @@ inline plain_form projective_form_of(const polynomial& f) {
 
 inline plain_presentation presentation_of(const scheme& X) {
   plain_presentation result;
-  for (const int position : X.pr) result.generators.push_back(exponents_of(X.O[at(position)]));
+  for (const int position : X.pr) result.generators.push_back(exponents_of(X.O[position]));
   for (int j = 0; j < X.A_d_cols; ++j) {
     plain_relation relation;
     for (int i = 0; i < no_of_pr(X); ++i)
@@ -60,7 +60,7 @@ void for_each_random_or_flat_set(int rounds, Check check) {
     check(points);
     std::set<coordinates> flat;
     for (coordinates point : points) {
-      point[at(monom_ordering == 0 ? 0 : dim - 1)] = 1;
+      point[monom_ordering == 0 ? 0 : dim - 1] = 1;
       flat.insert(point);
     }
     check(std::vector<coordinates>(flat.begin(), flat.end()));

@@ -31,7 +31,7 @@ struct module_of_points {
   std::vector<int> leading() const {
     std::vector<int> found;
     for (const auto& [T, owner] : syzygy_monomials(X, candidate_projections(X))) {
-      found.push_back(W.find(X.O[at(W.candidate(owner))] / T, owner));
+      found.push_back(W.find(X.O[W.candidate(owner)] / T, owner));
     }
     return found;
   }

@@ -21,12 +21,12 @@ inline plain_form plain_form_of(const polynomial& f) {
 }
 
 inline exponents times_variable(exponents e, int v) {
-  ++e[at(v)];
+  ++e[v];
   return e;
 }
 
 inline plain_form times_variable(plain_form f, int v) {
-  for (auto& [e, c] : f) ++e[at(v)];
+  for (auto& [e, c] : f) ++e[v];
   return f;
 }
 
@@ -69,7 +69,8 @@ class plain_artinian {
 
   // Something linear in the forms of degree d that is 0 exactly when the form is zero in R/(X_0).
   std::vector<int> residue(const plain_form& f, int d) const {
-    return smaller_degree_[std::min(at(d), smaller_degree_.size() - 1)].reduced(values_of(f));
+    return smaller_degree_[std::min<std::size_t>(d, smaller_degree_.size() - 1)].reduced(
+        values_of(f));
   }
 
   // The same for all products with a variable, one behind the other: 0 exactly when the form, of

@@ -113,7 +113,7 @@ class plain_betti {
       const int v = std::countr_zero(set & ~part);
       const int sign = std::popcount(set & ((1U << v) - 1)) % 2 == 0 ? 1 : -1;
       for (std::size_t i = 0; i < size; ++i) {
-        row[row.size() - size + i] = sign * products[at(v)][i];
+        row[row.size() - size + i] = sign * products[v][i];
       }
     }
     return row;
@@ -182,7 +182,7 @@ class plain_canonical_module {
 
  private:
   static int number(const std::vector<int>& numbers, int d) {
-    return d < 0 || d >= static_cast<int>(numbers.size()) ? 0 : numbers[at(d)];
+    return d < 0 || d >= static_cast<int>(numbers.size()) ? 0 : numbers[d];
   }
 
   std::vector<coordinates> points_;

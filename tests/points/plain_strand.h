@@ -20,14 +20,14 @@ using plain_vector = std::vector<polynomial>;
 inline int size_of(const plain_vector& v) { return static_cast<int>(v.size()); }
 inline int size_of(const std::vector<plain_vector>& v) { return static_cast<int>(v.size()); }
 
-inline plain_vector zero_vector(int n) { return plain_vector(at(n), polynomial(0)); }
+inline plain_vector zero_vector(int n) { return plain_vector(n, polynomial(0)); }
 
 // The component with the greatest leading monomial, the first of several; -1 for a zero vector.
 inline int plain_position(const plain_vector& v) {
   int position = -1;
   for (int k = 0; k < size_of(v); ++k) {
-    if (sign(v[at(k)]) == 0) continue;
-    if (position < 0 || v[at(k)].term(0) > v[at(position)].term(0)) position = k;
+    if (sign(v[k]) == 0) continue;
+    if (position < 0 || v[k].term(0) > v[position].term(0)) position = k;
   }
   return position;
 }
@@ -42,7 +42,7 @@ inline void subtract(polynomial& f, Fp8 c, const monom& m, const polynomial& g) 
 }
 
 inline void subtract(plain_vector& v, Fp8 c, const monom& m, const plain_vector& w) {
-  for (int k = 0; k < size_of(v); ++k) subtract(v[at(k)], c, m, w[at(k)]);
+  for (int k = 0; k < size_of(v); ++k) subtract(v[k], c, m, w[k]);
 }
 
 inline void subtract(plain_vector& v, Fp8 c, const plain_vector& w) { subtract(v, c, monom(), w); }
@@ -56,20 +56,20 @@ inline void scale(plain_vector& v, Fp8 c) {
 inline std::vector<int> plain_interreduce(std::vector<plain_vector>& vectors) {
   std::vector<int> positions;
   for (int i = 0; i < size_of(vectors); ++i) {
-    plain_vector& v = vectors[at(i)];
+    plain_vector& v = vectors[i];
     int position = plain_position(v);
     for (int k = 0; k < i && position >= 0;) {
-      const polynomial& f = v[at(position)];
-      const polynomial& g = vectors[at(k)][at(position)];
-      if (positions[at(k)] == position && g.term(0) == f.term(0)) {
-        subtract(v, f.coef(0), vectors[at(k)]);
+      const polynomial& f = v[position];
+      const polynomial& g = vectors[k][position];
+      if (positions[k] == position && g.term(0) == f.term(0)) {
+        subtract(v, f.coef(0), vectors[k]);
         position = plain_position(v);
         k = 0;
       } else {
         ++k;
       }
     }
-    if (position >= 0) scale(v, Fp8(1) / v[at(position)].coef(0));
+    if (position >= 0) scale(v, Fp8(1) / v[position].coef(0));
     positions.push_back(position);
   }
   return positions;
@@ -86,9 +86,7 @@ struct plain_level {
   }
 
   // Requires a vector that is not zero.
-  const monom& leading_monomial(int i) const {
-    return vectors[at(i)][at(positions[at(i)])].term(0);
-  }
+  const monom& leading_monomial(int i) const { return vectors[i][positions[i]].term(0); }
 
   int rank = 0;
   std::vector<plain_vector> vectors;
@@ -109,7 +107,7 @@ inline std::vector<plain_pair> plain_pairs(const plain_level& G, bool first_leve
   std::vector<plain_pair> pairs;
   for (int i = 0; i < G.count() - 1; ++i) {
     for (int j = i + 1; j < G.count(); ++j) {
-      if (G.positions[at(i)] < 0 || G.positions[at(j)] != G.positions[at(i)]) continue;
+      if (G.positions[i] < 0 || G.positions[j] != G.positions[i]) continue;
       const monom& s = G.leading_monomial(i);
       const monom& t = G.leading_monomial(j);
       if (!first_level) {
@@ -130,9 +128,8 @@ class plain_elimination {
 
   std::vector<plain_vector> candidates(const std::vector<plain_pair>& pairs) {
     candidates_.assign(pairs.size(), zero_vector(G_.count()));
-    for (int t = 0; t < size_of(candidates_); ++t) reduce(t, pairs[at(t)]);
-    for (const pivot_row& row : pivot_rows_)
-      candidates_[at(row.candidate)] = zero_vector(G_.count());
+    for (int t = 0; t < size_of(candidates_); ++t) reduce(t, pairs[t]);
+    for (const pivot_row& row : pivot_rows_) candidates_[row.candidate] = zero_vector(G_.count());
     return std::move(candidates_);
   }
 
@@ -147,14 +144,14 @@ class plain_elimination {
   };
 
   void reduce(int t, const plain_pair& pair) {
-    plain_vector& candidate = candidates_[at(t)];
-    candidate[at(pair.i)] = polynomial(pair.times_i, -Fp8(1));
-    candidate[at(pair.j)] = polynomial(pair.times_j);
+    plain_vector& candidate = candidates_[t];
+    candidate[pair.i] = polynomial(pair.times_i, -Fp8(1));
+    candidate[pair.j] = polynomial(pair.times_j);
     plain_vector W = zero_vector(G_.rank);
-    subtract(W, -Fp8(1), pair.times_j, G_.vectors[at(pair.j)]);
-    subtract(W, Fp8(1), pair.times_i, G_.vectors[at(pair.i)]);
+    subtract(W, -Fp8(1), pair.times_j, G_.vectors[pair.j]);
+    subtract(W, Fp8(1), pair.times_i, G_.vectors[pair.i]);
     for (int k = plain_position(W); k >= 0; k = plain_position(W)) {
-      const Fp8 c = W[at(k)].coef(0);
+      const Fp8 c = W[k].coef(0);
       if (subtract_pivot_row(W, k, t) || subtract_vector(W, k, t)) continue;
       scale(candidate, Fp8(1) / c);
       scale(W, Fp8(1) / c);
@@ -164,25 +161,25 @@ class plain_elimination {
   }
 
   bool subtract_pivot_row(plain_vector& W, int k, int t) {
-    const monom lead = W[at(k)].term(0);
-    const Fp8 c = W[at(k)].coef(0);
+    const monom lead = W[k].term(0);
+    const Fp8 c = W[k].coef(0);
     for (const pivot_row& row : pivot_rows_) {
-      if (row.position != k || row.W[at(k)].term(0) != lead) continue;
+      if (row.position != k || row.W[k].term(0) != lead) continue;
       subtract(W, c, row.W);
-      subtract(candidates_[at(t)], c, candidates_[at(row.candidate)]);
+      subtract(candidates_[t], c, candidates_[row.candidate]);
       return true;
     }
     return false;
   }
 
   bool subtract_vector(plain_vector& W, int k, int t) {
-    const monom lead = W[at(k)].term(0);
-    const Fp8 c = W[at(k)].coef(0);
+    const monom lead = W[k].term(0);
+    const Fp8 c = W[k].coef(0);
     for (int l = 0; l < G_.count(); ++l) {
-      if (G_.positions[at(l)] != k || !Zn_order_lt(G_.leading_monomial(l), lead)) continue;
+      if (G_.positions[l] != k || !Zn_order_lt(G_.leading_monomial(l), lead)) continue;
       const monom q = lead / G_.leading_monomial(l);
-      subtract(W, c, q, G_.vectors[at(l)]);
-      subtract(candidates_[at(t)][at(l)], c, q, polynomial(1));
+      subtract(W, c, q, G_.vectors[l]);
+      subtract(candidates_[t][l], c, q, polynomial(1));
       return true;
     }
     return false;
@@ -230,7 +227,7 @@ inline void add_level(plain_strand& strand, std::vector<plain_vector> vectors, i
   strand.levels.push_back({rank, std::move(vectors), std::move(positions), ""});
   const int number = strand.levels.back().no_of_nonzero();
   if (place >= 0 && place < static_cast<int>(strand.numbers.size())) {
-    strand.numbers[at(place)] = number;
+    strand.numbers[place] = number;
   }
   strand.progress +=
       std::to_string(number) + " syzygies in degree " + std::to_string(degree) + " found\n";
@@ -241,9 +238,9 @@ inline plain_level plain_generators(const scheme& X) {
   plain_level result;
   result.rank = 1;
   int n = static_cast<int>(all.size());
-  while (all[at(n - 1)].term(0).tot_deg() != all[0].term(0).tot_deg()) --n;
+  while (all[n - 1].term(0).tot_deg() != all[0].term(0).tot_deg()) --n;
   for (int i = 0; i < n; ++i) {
-    result.vectors.push_back({all[at(i)]});
+    result.vectors.push_back({all[i]});
     result.positions.push_back(0);
   }
   return result;
@@ -252,7 +249,7 @@ inline plain_level plain_generators(const scheme& X) {
 // The strand of I_X. Requires min_Ix.
 inline plain_strand plain_strand_of_I_X(const scheme& X) {
   plain_strand strand;
-  strand.numbers.assign(at(dim), 0);
+  strand.numbers.assign(dim, 0);
   const raised_dim projective;
   strand.levels.push_back(plain_generators(X));
   strand.numbers[0] = strand.levels[0].count();
@@ -270,7 +267,7 @@ inline plain_strand plain_strand_of_I_X(const scheme& X) {
 
 // Number of generators of w_R with a monomial of the same degree as the last one.
 inline int plain_no_of_generators(const scheme& X) {
-  const auto degree = [&](int i) { return X.O[at(X.pr[at(i)])].tot_deg(); };
+  const auto degree = [&](int i) { return X.O[X.pr[i]].tot_deg(); };
   const int last = static_cast<int>(X.pr.size()) - 1;
   int g = 1;
   for (int i = 0; i < last; ++i) g += degree(i) == degree(last) ? 1 : 0;
@@ -285,7 +282,7 @@ inline std::vector<plain_vector> plain_relations(const scheme& X, int g) {
     plain_vector relation;
     bool linear = false;
     for (int i = n - g; i < n; ++i) {
-      relation.push_back(X.A_d[at(i * X.A_d_cols + j)]);
+      relation.push_back(X.A_d[i * X.A_d_cols + j]);
       const monom& m = relation.back().term(0);
       linear = linear || m.tot_deg() + m.exp(proj - 1) == 1;
     }
@@ -303,11 +300,11 @@ enum class plain_extent { all, linear_relations };
 // The strand of w_R, or its beginning. Requires omega.
 inline plain_strand plain_strand_of_w_R(const scheme& X, plain_extent extent = plain_extent::all) {
   plain_strand strand;
-  strand.numbers.assign(at(dim), 0);
+  strand.numbers.assign(dim, 0);
   const int last = dim - 1;
   const raised_dim projective;
   const int g = plain_no_of_generators(X);
-  strand.numbers[at(last)] = g;
+  strand.numbers[last] = g;
   strand.progress =
       "w_R has " + std::to_string(g) + " generators in degree " + std::to_string(-X.sigma) + "\n";
   add_level(strand, plain_relations(X, g), g, last - 1, -X.sigma - 1);
@@ -327,11 +324,11 @@ inline plain_strand plain_strand_of_w_R(const scheme& X, plain_extent extent = p
 inline std::string plain_screen_form(const plain_level& level) {
   std::ostringstream text;
   for (int i = 0; i < level.count(); ++i) {
-    if (level.positions[at(i)] < 0) continue;
+    if (level.positions[i] < 0) continue;
     text << "[ ";
     counter = 2;
     for (int k = 0; k < level.rank; ++k) {
-      text << (k > 0 ? ";\n" : "") << level.vectors[at(i)][at(k)];
+      text << (k > 0 ? ";\n" : "") << level.vectors[i][k];
       counter = 0;
     }
     text << " ]\n";
@@ -344,8 +341,8 @@ inline std::string plain_file_form(const plain_level& level) {
   std::ostringstream text;
   text << level.rank << "\n" << level.no_of_nonzero() << "\n";
   for (int i = 0; i < level.count(); ++i) {
-    for (int k = 0; k < level.rank && level.positions[at(i)] >= 0; ++k) {
-      level.vectors[at(i)][at(k)].put(text);
+    for (int k = 0; k < level.rank && level.positions[i] >= 0; ++k) {
+      level.vectors[i][k].put(text);
       text << "\n";
     }
   }

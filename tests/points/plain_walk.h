@@ -10,7 +10,6 @@
 #include "arith/candidate.h"
 #include "arith/ordering.h"
 #include "arith/ring.h"
-#include "base/index.h"
 #include "points/record/scheme.h"
 
 namespace zep::tests {
@@ -39,12 +38,12 @@ class plain_walk {
 
   // Row i: the separator of point i. Requires distinct points.
   std::vector<row> separators() const {
-    std::vector<row> f(at(X_.s));
+    std::vector<row> f(X_.s);
     for (int j = X_.s - 1; j >= 0; --j) {
-      row& separator = f[at(pi_[at(j)])];
-      separator = q_[at(j)];
+      row& separator = f[pi_[j]];
+      separator = q_[j];
       for (int k = j + 1; k < X_.s; ++k) {
-        subtract(separator, f[at(pi_[at(k)])], values_q_[at(j)][at(pi_[at(k)])]);
+        subtract(separator, f[pi_[k]], values_q_[j][pi_[k]]);
       }
     }
     return f;
@@ -56,14 +55,14 @@ class plain_walk {
   }
 
   void examine(const mmm& m) {
-    row values(at(X_.s), Fp8(1));
+    row values(X_.s, Fp8(1));
     for (int i = 0; m.n >= 0 && i < X_.s; ++i) {
-      values[at(i)] = values_[at(m.n)][at(i)] * X_.P[i][m.k];
+      values[i] = values_[m.n][i] * X_.P[i][m.k];
     }
     row reduced = values;
-    row f(at(X_.s));
+    row f(X_.s);
     for (std::size_t j = 0; j < O.size(); ++j) {
-      const Fp8 c = reduced[at(pi_[j])];
+      const Fp8 c = reduced[pi_[j]];
       subtract(reduced, values_q_[j], c);
       subtract(f, q_[j], c);
     }
@@ -81,7 +80,7 @@ class plain_walk {
     pi_.push_back(static_cast<int>(pivot - reduced.begin()));
     for (Fp8& value : reduced) value *= c;
     // Also where there is no inverse.
-    reduced[at(pi_.back())] = 1;
+    reduced[pi_.back()] = 1;
     for (Fp8& coefficient : f) coefficient *= c;
     q_.push_back(f);
     values_q_.push_back(reduced);

@@ -15,7 +15,6 @@
 #include "arith/ordering.h"
 #include "arith/polynomial.h"
 #include "arith/ring.h"
-#include "base/index.h"
 #include "base/reporter.h"
 #include "points/record/scheme.h"
 #include "tests/captured.h"
@@ -39,7 +38,7 @@ using exponents = std::vector<int>;
 inline scheme make_set(const std::vector<coordinates>& points) {
   scheme X(static_cast<int>(points.size()));
   for (int i = 0; i < X.s; ++i) {
-    for (int j = 0; j < dim; ++j) X.P[i][j] = points[at(i)][at(j)];
+    for (int j = 0; j < dim; ++j) X.P[i][j] = points[i][j];
   }
   return X;
 }
@@ -66,7 +65,7 @@ inline exponents exponents_of(const monom& m) {
 
 inline monom monomial(const exponents& e) {
   monom m;
-  for (int j = 0; j < static_cast<int>(e.size()); ++j) m.set_exp(j, e[at(j)]);
+  for (int j = 0; j < static_cast<int>(e.size()); ++j) m.set_exp(j, e[j]);
   return m;
 }
 
@@ -93,15 +92,15 @@ inline int value_at(const polynomial& f, const coordinates& point) {
 // All affine monomials of degree d, ascending in the order in force.
 inline std::vector<exponents> monomials_of_degree(int d) {
   std::vector<exponents> found;
-  exponents e(at(dim), 0);
+  exponents e(dim, 0);
   const auto fill = [&](const auto& self, int j, int left) -> void {
     if (j == dim - 1) {
-      e[at(j)] = left;
+      e[j] = left;
       found.push_back(e);
       return;
     }
     for (int k = 0; k <= left; ++k) {
-      e[at(j)] = k;
+      e[j] = k;
       self(self, j + 1, left - k);
     }
   };

@@ -19,11 +19,11 @@ namespace zep::tests {
 inline std::vector<coordinates> points_on_curve(int m, int s) {
   std::vector<coordinates> points;
   for (int t = 0; t < std::min(s, Fp8::prime); ++t) {
-    coordinates point(at(dim), 0);
+    coordinates point(dim, 0);
     int power = 1;
     for (int j = 0; j < m; ++j) {
       power = power * t % Fp8::prime;
-      point[at(j)] = power;
+      point[j] = power;
     }
     points.push_back(point);
   }
@@ -32,12 +32,12 @@ inline std::vector<coordinates> points_on_curve(int m, int s) {
 
 // The points with coordinates below `width` in the first m places and 0 in the others.
 inline std::vector<coordinates> points_of_grid(int m, int width) {
-  std::vector<coordinates> points{coordinates(at(dim), 0)};
+  std::vector<coordinates> points{coordinates(dim, 0)};
   for (int j = 0; j < m; ++j) {
     std::vector<coordinates> next;
     for (coordinates point : points) {
       for (int t = 0; t < std::min(width, Fp8::prime); ++t) {
-        point[at(j)] = t;
+        point[j] = t;
         next.push_back(point);
       }
     }
@@ -49,12 +49,12 @@ inline std::vector<coordinates> points_of_grid(int m, int width) {
 // The origin, the unit points and (1, ..., 1): n + 2 points, in general position unless p divides
 // n - 1.
 inline std::vector<coordinates> points_of_frame() {
-  std::vector<coordinates> points{coordinates(at(dim), 0)};
+  std::vector<coordinates> points{coordinates(dim, 0)};
   for (int j = 0; j < dim; ++j) {
-    points.emplace_back(at(dim), 0);
-    points.back()[at(j)] = 1;
+    points.emplace_back(dim, 0);
+    points.back()[j] = 1;
   }
-  points.emplace_back(at(dim), 1);
+  points.emplace_back(dim, 1);
   return points;
 }
 
@@ -67,7 +67,7 @@ inline std::vector<coordinates> points_with_one_off_a_hyperplane(std::mt19937& r
   }
   std::vector<coordinates> points(inside.begin(), inside.end());
   points.insert(points.begin() + below(random, static_cast<int>(points.size())),
-                coordinates(at(dim), 1));
+                coordinates(dim, 1));
   return points;
 }
 
@@ -165,7 +165,7 @@ void for_each_meaningless_set(Use use) {
         use(points);
         const int copies = 1 + below(random, 3);
         for (int i = 0; i < copies; ++i) {
-          const coordinates again = points[at(below(random, static_cast<int>(points.size())))];
+          const coordinates again = points[below(random, static_cast<int>(points.size()))];
           points.insert(points.begin() + below(random, static_cast<int>(points.size())), again);
         }
         use(points);

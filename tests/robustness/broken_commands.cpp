@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/index.h"
 #include "front/commands/command.h"
 #include "tests/robustness/working_folder.h"
 
@@ -39,7 +38,7 @@ void set_on_the_next_line(session_draft& s) {
 
 void misspelt(session_draft& s) {
   std::string name = s.d.pick(command).name;
-  const std::size_t position = at(s.d.number_below(static_cast<int>(name.size())));
+  const std::size_t position = s.d.number_below(static_cast<int>(name.size()));
   switch (s.d.number_below(4)) {
     case 0:
       name[position] = static_cast<char>(name[position] ^ 0x20);

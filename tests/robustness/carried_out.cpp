@@ -3,7 +3,6 @@
 #include <iostream>
 #include <sstream>
 
-#include "base/index.h"
 #include "front/commands/command.h"
 #include "front/commands/execution.h"
 #include "front/commands/settings.h"
@@ -12,9 +11,7 @@ namespace zep::tests {
 
 namespace {
 
-std::string announcement(int c) {
-  return std::string("\n[carries out ") + command[at(c)].name + "]\n";
-}
+std::string announcement(int c) { return std::string("\n[carries out ") + command[c].name + "]\n"; }
 
 int read_identifier(session& z) {
   if (z.typed.at_line_end()) return no_identifier;
@@ -22,7 +19,7 @@ int read_identifier(session& z) {
 }
 
 void announce_and_execute(session& z, int c) {
-  const bool takes_identifier = command[at(c)].kind != command_kind::nothing;
+  const bool takes_identifier = command[c].kind != command_kind::nothing;
   const int identifier = takes_identifier ? read_identifier(z) : no_identifier;
   if (!takes_identifier || identifier >= 0) std::cout << announcement(c);
   execute(z, c, identifier);
@@ -55,14 +52,14 @@ void announce_commands(const std::string& session_text) {
 
 void add_announced(const std::string& out, command_set& commands) {
   for (int c = 0; c < no_of_commands(); ++c) {
-    if (out.find(announcement(c)) != std::string::npos) commands[at(c)] = true;
+    if (out.find(announcement(c)) != std::string::npos) commands[c] = true;
   }
 }
 
 std::string missing_commands(const command_set& commands) {
   std::string names;
   for (int c = 0; c < no_of_commands(); ++c) {
-    if (!commands[at(c)]) names += std::string(" ") + command[at(c)].name;
+    if (!commands[c]) names += std::string(" ") + command[c].name;
   }
   return names;
 }

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <string_view>
 
-#include "base/index.h"
 #include "front/session/identifiers.h"
 
 namespace zep::tests {
@@ -24,7 +23,7 @@ bool is_alphanumeric(char c) {
 void mutate(dice& d, std::string& text) {
   constexpr auto bytes = "\0\x01\x7f\x80\xff!-+:.azAZ_"sv;
   for (int i = d.between(1, 8); i > 0 && !text.empty(); --i) {
-    const std::size_t position = at(d.number_below(static_cast<int>(text.size())));
+    const std::size_t position = d.number_below(static_cast<int>(text.size()));
     const char old = text[position];
     if (old == '\n' || old == ' ' || old == '-' || is_digit(old)) continue;
     if (d.one_in(3)) {
@@ -40,7 +39,7 @@ void mutate(dice& d, std::string& text) {
 void cut(dice& d, std::string& text) {
   if (text.empty()) return;
   constexpr std::size_t most_digits = 3;
-  text.resize(at(d.number_below(static_cast<int>(text.size()))));
+  text.resize(d.number_below(static_cast<int>(text.size())));
   const std::size_t number = text.find_last_not_of("0123456789") + 1;
   text.resize(std::min(text.size(), number + most_digits));
 }

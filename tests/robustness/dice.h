@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <random>
 
-#include "base/index.h"
 #include "tests/draw.h"
 
 namespace zep::tests {
@@ -23,7 +22,7 @@ class dice {
 
   template <class Container>
   auto pick(const Container& list) -> const typename Container::value_type& {
-    return list[at(number_below(static_cast<int>(list.size())))];
+    return list[number_below(static_cast<int>(list.size()))];
   }
 
  private:

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "base/index.h"
 #include "front/commands/command.h"
 #include "tests/robustness/typed_points.h"
 
@@ -61,7 +60,7 @@ void type_dim(session_draft& s) {
   s.end_line();
   if (s.dim + 1 <= s.names) return;
   if (s.d.one_in(4)) s.say("abc");
-  s.say(many_names.substr(0, at(s.dim + 1)));
+  s.say(many_names.substr(0, s.dim + 1));
   s.names = s.dim + 1;
   s.end_line();
 }

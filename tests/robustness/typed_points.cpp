@@ -93,9 +93,9 @@ std::string typed_points(dice& d, const typed_space& space, int count) {
 std::string broken_points(dice& d, const typed_space& space, int count) {
   std::vector<std::string> points = several_points(d, space, count + d.between(-1, 1));
   if (!points.empty() && !d.one_in(3)) {
-    std::string& broken = points[at(d.number_below(static_cast<int>(points.size())))];
+    std::string& broken = points[d.number_below(static_cast<int>(points.size()))];
     const int position = d.number_below(static_cast<int>(broken.size()));
-    broken.insert(at(position), std::string(" ") + d.pick(no_numbers) + " ");
+    broken.insert(position, std::string(" ") + d.pick(no_numbers) + " ");
   }
   return joined(d, space, points);
 }

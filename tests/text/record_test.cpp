@@ -227,7 +227,7 @@ TEST(Ideal, PrintsAGeneratorALine) {
 
 // The rule straight away: some choice of min(s, n + 1) points has a non-zero determinant.
 bool plainly_independent_subset(const std::vector<coordinates>& points) {
-  const std::size_t size = std::min(points.size(), at(dim + 1));
+  const std::size_t size = std::min<std::size_t>(points.size(), dim + 1);
   std::vector<bool> chosen(points.size(), false);
   std::fill(chosen.begin(), chosen.begin() + static_cast<std::ptrdiff_t>(size), true);
   do {

@@ -15,7 +15,7 @@ namespace {
 // c * (first variable) + the others of the first n, which is 4n - 3 columns wide for c = 1.
 polynomial sum_of_variables(int n, int c = 1) {
   std::vector<monom> terms;
-  std::vector<Fp8> coefs(at(n), Fp8(1));
+  std::vector<Fp8> coefs(n, Fp8(1));
   for (int v = 0; v < n; ++v) terms.push_back(variable(v));
   coefs.front() = c;
   return {std::move(terms), std::move(coefs)};
@@ -32,7 +32,7 @@ std::string vector_shown(const std::vector<polynomial>& components) {
   std::ostringstream out;
   counter = 40;
   show_vector(out, static_cast<int>(components.size()),
-              [&](int i) -> const polynomial& { return components[at(i)]; });
+              [&](int i) -> const polynomial& { return components[i]; });
   return out.str();
 }
 

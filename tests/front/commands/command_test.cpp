@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/index.h"
 #include "tests/front/transcript.h"
 #include "tests/ring_in_force.h"
 
@@ -23,7 +22,7 @@ TEST(CommandTable, IsAlphabeticalWithNamesThatFitAWord) {
 }
 
 TEST(CommandTable, FindsCommandsByTheirWholeName) {
-  for (int c = 0; c < no_of_commands(); ++c) EXPECT_EQ(find_command(command[at(c)].name), c);
+  for (int c = 0; c < no_of_commands(); ++c) EXPECT_EQ(find_command(command[c].name), c);
   EXPECT_EQ(find_command("alph"), -1);
   EXPECT_EQ(find_command("alphas"), -1);
   EXPECT_EQ(find_command(""), -1);
@@ -53,7 +52,7 @@ TEST(CommandTable, CommandsWithoutIdentifierAreTheSettingsAndTheCreatingOnes) {
 TEST(Help, ListsSixNamesARowInColumnsOfThirteen) {
   std::string expected = "% list of commands in alphabetical order :";
   for (int c = 0; c < no_of_commands(); ++c) {
-    std::string name = command[at(c)].name;
+    std::string name = command[c].name;
     name.resize(13, ' ');
     expected += (c % 6 == 0 ? "\n" : "") + name;
   }

@@ -55,7 +55,7 @@ class forms_of_degree {
     return result;
   }
 
-  std::vector<int> row(const polynomial& f) const { return row(f, exponents(at(dim), 0)); }
+  std::vector<int> row(const polynomial& f) const { return row(f, exponents(dim, 0)); }
 
   // The span of all products with generators of smaller degree.
   plain_echelon products(const std::vector<polynomial>& generators) const {
@@ -120,7 +120,7 @@ class plain_choice {
           order.erase(order.begin(), first + k);
           return order;
         }
-        std::swap(order[at(k)], order[at(--end)]);
+        std::swap(order[k], order[--end]);
       }
     }
     order.erase(order.begin(), order.begin() + std::min(n, rows));
@@ -152,8 +152,8 @@ int pairs_of_neighbours(const std::vector<polynomial>& basis, const plain_facts&
       const exponents t = exponents_of(basis[j].term(0));
       exponents P;
       for (std::size_t k = 0; k < s.size(); ++k) P.push_back(std::max(s[k], t[k]));
-      --P[at(last_larger(s, t))];
-      --P[at(last_larger(t, s))];
+      --P[last_larger(s, t)];
+      --P[last_larger(t, s)];
       pairs += std::count(facts.order_ideal.begin(), facts.order_ideal.end(), P) > 0 ? 1 : 0;
     }
   }
@@ -166,7 +166,7 @@ std::vector<int> ascending(std::vector<int> candidates, const std::vector<polyno
   while (!candidates.empty()) {
     std::size_t best = 0;
     for (std::size_t i = 1; i < candidates.size(); ++i) {
-      if (degree_of(basis[at(candidates[i])]) < degree_of(basis[at(candidates[best])])) best = i;
+      if (degree_of(basis[candidates[i]]) < degree_of(basis[candidates[best]])) best = i;
     }
     sorted.push_back(candidates[best]);
     candidates[best] = candidates.back();
@@ -336,7 +336,7 @@ TEST(MinIxProperty, KeepsTheElementsThatTheEliminationLeaves) {
     ASSERT_EQ(expected.size(), X.min_Ix->gen.size());
     for (std::size_t m = 0; m < expected.size(); ++m) {
       polynomial f;
-      hom(f, basis[at(expected[m])]);
+      hom(f, basis[expected[m]]);
       ASSERT_EQ(X.min_Ix->gen[m], f) << "generator " << m + 1;
     }
     left_out += static_cast<int>(basis.size() - expected.size());

@@ -205,9 +205,9 @@ class plain_selection {
     int end = m;
     bool stuck = false;
     for (int k = 0; k < std::min(m, rows_) && !stuck; ++k) {
-      while (!stuck && !pivots.add(plain.residue_of_products({{order[at(k)], 1}}, d))) {
+      while (!stuck && !pivots.add(plain.residue_of_products({{order[k], 1}}, d))) {
         stuck = k >= end - 1;
-        if (!stuck) std::swap(order[at(k)], order[at(--end)]);
+        if (!stuck) std::swap(order[k], order[--end]);
       }
     }
     free_.assign(order.rbegin(), order.rend() - pivots.rank());

@@ -157,13 +157,13 @@ TEST(OmegaProperty, GeneratorsAndRelationsAreCountedByDegree) {
   for_each_set([](const std::vector<coordinates>& points) {
     const scheme X = computed(points);
     std::vector<int> degrees;
-    for (const int position : X.pr) degrees.push_back(X.O[at(position)].tot_deg());
+    for (const int position : X.pr) degrees.push_back(X.O[position].tot_deg());
     ASSERT_EQ(static_cast<int>(X.pr_deg.size()), X.sigma + 2);
-    for (int d = 0; d < X.sigma + 2; ++d) ASSERT_EQ(X.pr_deg[at(d)], no_of(degrees, d));
+    for (int d = 0; d < X.sigma + 2; ++d) ASSERT_EQ(X.pr_deg[d], no_of(degrees, d));
     const std::vector<int> relations = degrees_of_relations(points, X);
     ASSERT_EQ(X.A_d_maxdeg, relations.back());
     ASSERT_EQ(static_cast<int>(X.A_d_coldeg.size()), X.A_d_maxdeg + 1);
-    for (int e = 0; e <= X.A_d_maxdeg; ++e) ASSERT_EQ(X.A_d_coldeg[at(e)], no_of(relations, e));
+    for (int e = 0; e <= X.A_d_maxdeg; ++e) ASSERT_EQ(X.A_d_coldeg[e], no_of(relations, e));
   });
 }
 
@@ -209,8 +209,8 @@ TEST(OmegaProperty, NumbersFitTheHilbertFunctionAndTheMinimalGeneratorsOfTheIdea
     const int D = X.sigma + 1;
     for (int j = 0; j <= dim + D; ++j) {
       if (!is_determined(X, j)) continue;
-      const int relations = dim + D - j <= X.A_d_maxdeg ? X.A_d_coldeg[at(dim + D - j)] : 0;
-      const int last = relations - (j >= dim ? X.pr_deg[at(j - dim)] : 0);
+      const int relations = dim + D - j <= X.A_d_maxdeg ? X.A_d_coldeg[dim + D - j] : 0;
+      const int last = relations - (j >= dim ? X.pr_deg[j - dim] : 0);
       ASSERT_EQ((j == 0 ? 1 : 0) - no_of(generators, j) + (dim % 2 == 0 ? -last : last),
                 alternating_sum(artinian, j))
           << "degree " << j;

@@ -13,11 +13,11 @@ namespace {
 // Member i as weights.
 weights plain_member(const module_of_points& m, int i, const std::vector<weights>& projections,
                      const std::vector<coordinates>& points) {
-  return times(projections[at(m.W.candidate(m.W.owner(i)))], exponents_of(m.W.factor(i)), points);
+  return times(projections[m.W.candidate(m.W.owner(i))], exponents_of(m.W.factor(i)), points);
 }
 
 exponents exponent_of(const dual_module& W, const scheme& X, int i) {
-  return exponents_of(X.O[at(W.candidate(W.owner(i)))] / W.factor(i));
+  return exponents_of(X.O[W.candidate(W.owner(i))] / W.factor(i));
 }
 
 TEST(DualModule, OfFiveGeneralPointsIsKnown) {
@@ -65,7 +65,7 @@ TEST(DualModule, OfMeaninglessPointsBreaksNothing) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
     const module_of_points m(points);
     for (int b = 0; b < m.W.no_of_border(); ++b) {
-      EXPECT_EQ(m.W.canonical_form(b, m.W.no_of_members()).size(), at(m.W.no_of_members()));
+      EXPECT_EQ(std::ssize(m.W.canonical_form(b, m.W.no_of_members())), m.W.no_of_members());
     }
   });
 }
@@ -74,10 +74,10 @@ TEST(DualModuleProperty, MembersBelongToTheLastCandidateTheyDivide) {
   for_each_set([](const std::vector<coordinates>& points) {
     const module_of_points m(points);
     for (int i = 0; i < m.W.no_of_members(); ++i) {
-      const exponents e = exponents_of(m.X.O[at(i)]);
+      const exponents e = exponents_of(m.X.O[i]);
       int last = -1;
       for (int a = 0; a < m.W.no_of_candidates(); ++a) {
-        if (divides(e, exponents_of(m.X.O[at(m.W.candidate(a))]))) last = a;
+        if (divides(e, exponents_of(m.X.O[m.W.candidate(a)]))) last = a;
       }
       ASSERT_EQ(m.W.owner(i), last);
       ASSERT_EQ(exponent_of(m.W, m.X, i), e);
@@ -92,8 +92,8 @@ TEST(DualModuleProperty, ProductsAreFoundWhereTheyAre) {
     const dual_module& W = m.W;
     for (int i = 0; i < W.no_of_members(); ++i) {
       for (int v = 0; v < dim; ++v) {
-        exponents e = exponents_of(m.X.O[at(i)]);
-        --e[at(v)];
+        exponents e = exponents_of(m.X.O[i]);
+        --e[v];
         const auto [is_member, position] = W.times(i, v);
         if (is_member) {
           ASSERT_EQ(W.owner(position), W.owner(i));
@@ -132,7 +132,7 @@ TEST(DualModuleProperty, CanonicalFormsAreTheProductsInTheModule) {
       const std::vector<Fp8> form = m.W.canonical_form(b, m.W.no_of_members());
       weights sum(points.size(), 0);
       for (int i = 0; i < m.W.no_of_members(); ++i) {
-        const int c = form[at(i)].value();
+        const int c = form[i].value();
         not_zero += c == 0 ? 0 : 1;
         if (c == 0) continue;
         // X_0 has no negative powers.
@@ -142,8 +142,8 @@ TEST(DualModuleProperty, CanonicalFormsAreTheProductsInTheModule) {
           sum[k] = (sum[k] + c * member[k]) % Fp8::prime;
         }
       }
-      exponents x_v(at(dim), 0);
-      x_v[at(m.W.border(b).variable)] = 1;
+      exponents x_v(dim, 0);
+      x_v[m.W.border(b).variable] = 1;
       const weights member = plain_member(m, m.W.border(b).member, projections, points);
       ASSERT_EQ(sum, times(member, x_v, points));
     }

@@ -74,7 +74,7 @@ TEST(GeneratorEliminationProperty, SyzygiesAreRewrittenByFallingDegrees) {
       count += S.leading.size();
       const int n = static_cast<int>(S.leading.size());
       for (int r = 0; r < n; ++r) {
-        ASSERT_EQ(m.W.degree(S.leading[at(r)]), S.degree);
+        ASSERT_EQ(m.W.degree(S.leading[r]), S.degree);
         for (int k = 0; k < n; ++k) ASSERT_EQ(S.coefs[r][k], r == k ? 1 : 0);
       }
     }
@@ -112,7 +112,7 @@ TEST(GeneratorEliminationProperty, ColumnsAreHomogeneousRelationsOfTheGenerators
         ASSERT_EQ(m.dim(), proj);
         ASSERT_GT(full_degree(m), 0);
         ASSERT_EQ(full_degree(m), e.m.W.degree_of_member(position) - e.degrees[j]);
-        const weights product = times(projections[at(position)], exponents_of(m), points);
+        const weights product = times(projections[position], exponents_of(m), points);
         for (std::size_t i = 0; i < sum.size(); ++i) {
           sum[i] = (sum[i] + c.value() * product[i]) % Fp8::prime;
         }

@@ -22,8 +22,8 @@ struct dense_result {
 int pivot_column(const dense_row& row) {
   int column = -1;
   for (int j = 0; j < static_cast<int>(row.size()); ++j) {
-    if (sign(row[at(j)]) == 0) continue;
-    if (column < 0 || row[at(j)].term(0) > row[at(column)].term(0)) column = j;
+    if (sign(row[j]) == 0) continue;
+    if (column < 0 || row[j].term(0) > row[column].term(0)) column = j;
   }
   return column;
 }
@@ -31,8 +31,8 @@ int pivot_column(const dense_row& row) {
 // The first row before row i with the same pivot, or -1.
 int earlier_row(const dense_matrix& A, const std::vector<int>& pivots, int i, int column) {
   for (int k = 0; k < i; ++k) {
-    if (pivots[at(k)] != column) continue;
-    if (A[at(k)][at(column)].term(0) == A[at(i)][at(column)].term(0)) return k;
+    if (pivots[k] != column) continue;
+    if (A[k][column].term(0) == A[i][column].term(0)) return k;
   }
   return -1;
 }
@@ -40,17 +40,17 @@ int earlier_row(const dense_matrix& A, const std::vector<int>& pivots, int i, in
 dense_result dense_interreduce(dense_matrix& A) {
   dense_result result;
   for (int i = 0; i < static_cast<int>(A.size()); ++i) {
-    dense_row& row = A[at(i)];
+    dense_row& row = A[i];
     int column = pivot_column(row);
     int k = -1;
     while (column >= 0 && (k = earlier_row(A, result.pivots, i, column)) >= 0) {
-      const Fp8 c = row[at(column)].coef(0);
-      for (std::size_t j = 0; j < row.size(); ++j) row[j] -= A[at(k)][j] * c;
+      const Fp8 c = row[column].coef(0);
+      for (std::size_t j = 0; j < row.size(); ++j) row[j] -= A[k][j] * c;
       ++result.reductions;
       column = pivot_column(row);
     }
     if (column >= 0) {
-      const Fp8 inverse = Fp8(1) / row[at(column)].coef(0);
+      const Fp8 inverse = Fp8(1) / row[column].coef(0);
       for (polynomial& f : row) f *= inverse;
     }
     result.pivots.push_back(pivot_column(row));
@@ -84,7 +84,7 @@ dense_row random_row(int degree, const std::vector<int>& column_degree, std::mt1
 }
 
 std::vector<int> random_column_degrees(std::mt19937& random) {
-  std::vector<int> degrees(at(1 + below(random, 4)));
+  std::vector<int> degrees(1 + below(random, 4));
   for (int& degree : degrees) degree = below(random, 2);
   return degrees;
 }
@@ -92,7 +92,7 @@ std::vector<int> random_column_degrees(std::mt19937& random) {
 // Row degrees and column degrees add up, as in a resolution.
 dense_matrix random_matrix(std::mt19937& random) {
   const std::vector<int> column_degree = random_column_degrees(random);
-  dense_matrix A(at(1 + below(random, 12)));
+  dense_matrix A(1 + below(random, 12));
   for (dense_row& row : A) row = random_row(below(random, 3), column_degree, random);
   return A;
 }
@@ -161,7 +161,7 @@ TEST(PolynomialRowProperty, IsMadeOfItsEntriesOrItsTerms) {
     const int cols = static_cast<int>(entries.size());
     std::vector<polynomial_row::term> terms;
     for (int j = cols - 1; j >= 0; --j) {
-      const polynomial& f = entries[at(j)];
+      const polynomial& f = entries[j];
       for (int i = 0; i < f.no_of_monoms(); ++i) terms.push_back({f.term(i), j, f.coef(i)});
     }
     for (const polynomial_row& row : {polynomial_row(entries), polynomial_row(cols, terms)}) {

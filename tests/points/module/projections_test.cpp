@@ -56,13 +56,13 @@ std::vector<plain_syzygy> plain_syzygies(const std::vector<exponents>& candidate
   std::vector<plain_syzygy> all;
   for (int a = 0; a < k; ++a) {
     for (int b = a + 1; b < k; ++b) {
-      all.emplace_back(over_gcd(candidates[at(a)], candidates[at(b)]), a);
+      all.emplace_back(over_gcd(candidates[a], candidates[b]), a);
     }
   }
   for (int a = 0; a < k; ++a) {
     for (int v = 0; v < dim; ++v) {
-      exponents power(at(dim), 0);
-      power[at(v)] = candidates[at(a)][at(v)] + 1;
+      exponents power(dim, 0);
+      power[v] = candidates[a][v] + 1;
       all.emplace_back(power, a);
     }
   }
@@ -151,7 +151,7 @@ TEST(ProjectionsProperty, SyzygyMonomialsAreThoseLeftWhenMultiplesAreTakenAwayOn
   for_each_set([](const std::vector<coordinates>& points) {
     const scheme X = with_bu_mo(points);
     std::vector<exponents> candidates;
-    for (const int i : candidate_projections(X)) candidates.push_back(exponents_of(X.O[at(i)]));
+    for (const int i : candidate_projections(X)) candidates.push_back(exponents_of(X.O[i]));
     ASSERT_EQ(syzygies_of(X), plain_syzygies(candidates));
   });
 }

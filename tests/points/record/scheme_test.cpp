@@ -67,15 +67,15 @@ TEST(Scheme, FindsMonomialsByKey) {
   const silence quiet;
   bu_mo(X);
   for (int i = 0; i < X.s; ++i) {
-    EXPECT_EQ(is_el_OO(X, X.O[at(i)]), i);
-    EXPECT_EQ(is_el_O(X, X.O[at(i)]), i);
-    EXPECT_EQ(is_el_G(X, X.O[at(i)]), -1);
-    EXPECT_EQ(is_el_B(X, X.O[at(i)]), -1);
+    EXPECT_EQ(is_el_OO(X, X.O[i]), i);
+    EXPECT_EQ(is_el_O(X, X.O[i]), i);
+    EXPECT_EQ(is_el_G(X, X.O[i]), -1);
+    EXPECT_EQ(is_el_B(X, X.O[i]), -1);
   }
   for (int b = 0; b < no_of_border(X); ++b) {
-    EXPECT_EQ(is_el_B(X, X.B[at(b)]), b);
-    EXPECT_EQ(is_el_O(X, X.B[at(b)]), -1);
-    EXPECT_EQ(is_el_OO(X, X.B[at(b)]), -1);
+    EXPECT_EQ(is_el_B(X, X.B[b]), b);
+    EXPECT_EQ(is_el_O(X, X.B[b]), -1);
+    EXPECT_EQ(is_el_OO(X, X.B[b]), -1);
   }
   for (int g = 0; g < X.Ix->no_of_gens(); ++g) EXPECT_EQ(is_el_G(X, X.Ix->lead(g)), g);
 }

@@ -33,7 +33,7 @@ row form_of(const scheme& X, const exponents& e) {
 plain_form combined(const scheme& X, const row& coefs, int d) {
   plain_form f;
   for (std::size_t i = 0; i < coefs.size(); ++i) {
-    f.emplace_back(exponents_of(X.O[at(X.Can_Lf->begin(d)) + i]), coefs[i].value());
+    f.emplace_back(exponents_of(X.O[X.Can_Lf->begin(d) + i]), coefs[i].value());
   }
   return f;
 }
@@ -100,8 +100,7 @@ TEST(CanonicalForms, OfMeaninglessPointsBreakNothing) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
     const scheme X = with_forms(points);
     for (int b = 0; b < no_of_border(X); ++b) {
-      EXPECT_EQ(static_cast<int>(X.Can_Lf->form(b).size()),
-                X.Can_Lf->dimension(X.B[at(b)].tot_deg()));
+      EXPECT_EQ(static_cast<int>(X.Can_Lf->form(b).size()), X.Can_Lf->dimension(X.B[b].tot_deg()));
     }
   });
 }
@@ -131,10 +130,10 @@ TEST(CanonicalFormsProperty, InTheWholeRingHaveTheValuesOfTheirBorderMonomials) 
     ASSERT_EQ(R.no_of_border(), no_of_border(X));
     for (int b = 0; b < R.no_of_border(); ++b) {
       const std::span<const Fp8> form = R.form(b);
-      ASSERT_EQ(static_cast<int>(form.size()), R.begin(X.B[at(b)].tot_deg() + 1));
+      ASSERT_EQ(static_cast<int>(form.size()), R.begin(X.B[b].tot_deg() + 1));
       const polynomial f = combination(form, X.O);
       for (const coordinates& point : points) {
-        ASSERT_EQ(value_at(f, point), value_at(exponents_of(X.B[at(b)]), point));
+        ASSERT_EQ(value_at(f, point), value_at(exponents_of(X.B[b]), point));
       }
     }
   });
@@ -171,7 +170,7 @@ TEST(CanonicalFormsProperty, ProductsAreFoundWhereTheyAre) {
       for (int v = 0; v < dim; ++v) {
         const auto [in_O, position] = X.Can_Lf->times(i, v);
         const std::vector<monom>& where = in_O ? X.O : X.B;
-        ASSERT_EQ(exponents_of(where[at(position)]), times_variable(exponents_of(X.O[at(i)]), v));
+        ASSERT_EQ(exponents_of(where[position]), times_variable(exponents_of(X.O[i]), v));
       }
     }
   });
@@ -183,7 +182,7 @@ TEST(CanonicalFormsProperty, AreCongruentToTheirBorderMonomials) {
     const scheme X = with_forms(points);
     const plain_artinian plain(points);
     for (int b = 0; b < no_of_border(X); ++b) {
-      const exponents e = exponents_of(X.B[at(b)]);
+      const exponents e = exponents_of(X.B[b]);
       const int d = degree_of(e);
       const row form = form_of(X, e);
       plain_form difference = combined(X, form, d);
@@ -199,17 +198,17 @@ TEST(CanonicalFormsProperty, AreReachedFromTheGreatestBorderMonomialBelow) {
   for_each_set([](const std::vector<coordinates>& points) {
     const scheme X = with_forms(points);
     for (int b = 0; b < no_of_border(X); ++b) {
-      const exponents e = exponents_of(X.B[at(b)]);
+      const exponents e = exponents_of(X.B[b]);
       const auto [border, variable] = X.Can_Lf->origin_of(b);
       int k = b - 1;
-      while (k >= 0 && (degree_of(exponents_of(X.B[at(k)])) != degree_of(e) - 1 ||
-                        !divides(exponents_of(X.B[at(k)]), e))) {
+      while (k >= 0 && (degree_of(exponents_of(X.B[k])) != degree_of(e) - 1 ||
+                        !divides(exponents_of(X.B[k]), e))) {
         --k;
       }
       ASSERT_EQ(border, k);
-      ASSERT_EQ(border < 0, is_el_G(X, X.B[at(b)]) >= 0);
+      ASSERT_EQ(border < 0, is_el_G(X, X.B[b]) >= 0);
       if (k >= 0) {
-        ASSERT_EQ(times_variable(exponents_of(X.B[at(k)]), variable), e);
+        ASSERT_EQ(times_variable(exponents_of(X.B[k]), variable), e);
       }
     }
   });
@@ -221,8 +220,8 @@ TEST(CanonicalFormsProperty, ProductsOfCombinationsAreAdded) {
     const scheme X = with_forms(points);
     const plain_artinian plain(points);
     for (int d = 0; d <= X.Can_Lf->top_degree(); ++d) {
-      row factor(at(X.Can_Lf->dimension(d)));
-      row sum(at(X.Can_Lf->dimension(d + 1)));
+      row factor(X.Can_Lf->dimension(d));
+      row sum(X.Can_Lf->dimension(d + 1));
       for (row* r : {&factor, &sum}) {
         for (Fp8& x : *r) x = below(random, Fp8::prime);
       }

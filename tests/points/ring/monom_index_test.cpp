@@ -6,7 +6,6 @@
 #include <random>
 
 #include "arith/ordering.h"
-#include "base/index.h"
 #include "tests/draw.h"
 #include "tests/ring_in_force.h"
 
@@ -64,8 +63,8 @@ TEST(MonomIndex, FindsWhatASearchFromTheFrontFinds) {
         for (int i = 0; i < size; ++i) list.push_back(random_monomial(random, 3));
         std::sort(list.begin(), list.end());
         // Filling behind the greatest, and one monomial out of order.
-        list.resize(at(size + below(random, 3)));
-        if (below(random, 2) == 0) std::swap(list.front(), list[at(below(random, size))]);
+        list.resize(size + below(random, 3));
+        if (below(random, 2) == 0) std::swap(list.front(), list[below(random, size)]);
         const monom_index index(list);
         for (int i = 0; i < 100; ++i) {
           const monom t = random_monomial(random, 4);

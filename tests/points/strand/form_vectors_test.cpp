@@ -26,7 +26,7 @@ TEST(FormVectors, GiveTheirComponentsBack) {
   EXPECT_EQ(vectors.no_of_nonzero(), 2);
   EXPECT_EQ(vectors.monomials(), (std::vector<monom>{X(), Y(), Z()}));
   EXPECT_EQ(vectors.width(), 6U);
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(vectors.components(i), given[at(i)]);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(vectors.components(i), given[i]);
 }
 
 TEST(FormVectors, BeginInTheGreatestComponentTheFirstOfSeveral) {
@@ -75,10 +75,10 @@ TEST(ProjectiveVariables, AreThoseOfTheRingWithTheHomogenisingOneLast) {
     EXPECT_EQ(dim, 3);
     ASSERT_EQ(variables.size(), 4U);
     for (int v = 0; v < 4; ++v) {
-      EXPECT_EQ(variables[at(v)].exp(v), 1);
-      EXPECT_EQ(variables[at(v)].dim(), 4);
+      EXPECT_EQ(variables[v].exp(v), 1);
+      EXPECT_EQ(variables[v].dim(), 4);
       if (v > 0) {
-        EXPECT_TRUE(variables[at(v - 1)] > variables[at(v)]);
+        EXPECT_TRUE(variables[v - 1] > variables[v]);
       }
     }
   }

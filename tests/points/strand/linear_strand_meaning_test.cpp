@@ -24,8 +24,8 @@ TEST(LinearStrandMeaning, NumbersAreThoseOfTheResolutionOfTheRing) {
     ASSERT_EQ(static_cast<int>(X.linres[0].size()), dim);
     ASSERT_EQ(static_cast<int>(X.linres[1].size()), dim);
     for (int i = 1; i <= dim; ++i) {
-      ASSERT_EQ(X.linres[0][at(i - 1)], betti(i, i + X.alpha - 1)) << "module " << i;
-      ASSERT_EQ(X.linres[1][at(i - 1)], betti(i, i + D)) << "module " << i;
+      ASSERT_EQ(X.linres[0][i - 1], betti(i, i + X.alpha - 1)) << "module " << i;
+      ASSERT_EQ(X.linres[1][i - 1], betti(i, i + D)) << "module " << i;
     }
   });
 }

@@ -47,8 +47,8 @@ void expect_level(const form_vectors& found, const plain_level& expected) {
   ASSERT_EQ(found.rank(), expected.rank);
   ASSERT_EQ(found.count(), expected.count());
   for (int i = 0; i < found.count(); ++i) {
-    ASSERT_EQ(found.position(i), expected.positions[at(i)]);
-    ASSERT_EQ(texts(found.components(i)), texts(expected.vectors[at(i)]));
+    ASSERT_EQ(found.position(i), expected.positions[i]);
+    ASSERT_EQ(texts(found.components(i)), texts(expected.vectors[i]));
     if (found.position(i) < 0) continue;
     ASSERT_EQ(found.leading_monomial(i), expected.leading_monomial(i));
   }
@@ -62,7 +62,7 @@ level_report comparison(const plain_strand& strand, int first, int& reported) {
     EXPECT_LT(index, static_cast<int>(strand.levels.size()));
     if (::testing::Test::HasFailure()) return false;
     ++reported;
-    expect_level(found, strand.levels[at(index)]);
+    expect_level(found, strand.levels[index]);
     return !::testing::Test::HasFailure();
   };
 }
@@ -108,7 +108,7 @@ std::string file_form_of_I_X(const plain_strand& strand) {
 std::string matrices_of_I_X(const plain_strand& strand) {
   std::string text;
   for (int k = 0; k < static_cast<int>(strand.levels.size()); ++k) {
-    text += plain_matrix(strand.levels[at(k)], k + 1, "I_X");
+    text += plain_matrix(strand.levels[k], k + 1, "I_X");
   }
   return text;
 }
@@ -157,7 +157,7 @@ TEST(LinearStrandProperty, OfTheIdealIsComputedReportedAndWrittenAsThePlainStran
 std::string matrices_of_w_R(const plain_strand& strand) {
   std::string text;
   for (int k = 0; k < static_cast<int>(strand.levels.size()); ++k) {
-    text += plain_matrix(strand.levels[at(k)], k + 1, "w_R");
+    text += plain_matrix(strand.levels[k], k + 1, "w_R");
   }
   return text;
 }

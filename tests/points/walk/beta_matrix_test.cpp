@@ -74,7 +74,7 @@ std::vector<int> combined(const std::vector<int>& coefs, const rows& forms,
   std::vector<int> sum(basis.size(), 0);
   for (std::size_t l = 0; l < basis.size(); ++l) {
     for (std::size_t j = 0; j < sum.size(); ++j) {
-      sum[j] = (sum[j] + coefs[l] * forms[at(basis[l])][j]) % Fp8::prime;
+      sum[j] = (sum[j] + coefs[l] * forms[basis[l]][j]) % Fp8::prime;
     }
   }
   return sum;
@@ -84,7 +84,7 @@ std::vector<int> combined(const std::vector<int>& coefs, const rows& forms,
 int rank_of(const rows& forms, const std::vector<int>& chosen, std::size_t columns) {
   plain_echelon echelon;
   for (const int i : chosen) {
-    std::vector<int> row = forms[at(i)];
+    std::vector<int> row = forms[i];
     row.resize(columns);
     echelon.add(row);
   }
@@ -218,9 +218,9 @@ TEST(BetaMatrixProperty, CombinesTheLeadingFormsOfAllSeparators) {
     ASSERT_EQ(static_cast<std::size_t>(X.beta_matrix->cols()), forms[0].size());
     ASSERT_EQ(X.basis.size(), forms[0].size());
     for (int i = 0; i < X.s; ++i) {
-      ASSERT_EQ(combined(beta_row(X, i), forms, X.basis), forms[at(i)]);
-      ASSERT_EQ(is_zero(beta_row(X, i)), is_zero(forms[at(i)]));
-      zero_rows += is_zero(forms[at(i)]) ? 1 : 0;
+      ASSERT_EQ(combined(beta_row(X, i), forms, X.basis), forms[i]);
+      ASSERT_EQ(is_zero(beta_row(X, i)), is_zero(forms[i]));
+      zero_rows += is_zero(forms[i]) ? 1 : 0;
     }
   });
   EXPECT_GT(zero_rows, 100);

@@ -109,7 +109,7 @@ TEST(BuMo, TakesTwoHundredPointsOnALine) {
     const ring_in_force ring(251, n);
     std::vector<coordinates> points;
     for (int i = 0; i < 200; ++i) {
-      coordinates point(at(n), 3);
+      coordinates point(n, 3);
       point[0] = i;
       points.push_back(point);
     }
@@ -127,8 +127,8 @@ TEST(BuMo, TakesTwoHundredPointsOnALine) {
 void expect_basis(const scheme& X, const plain_walk& plain) {
   ASSERT_EQ(X.Ix->no_of_gens(), static_cast<int>(plain.leads.size()));
   for (int g = 0; g < X.Ix->no_of_gens(); ++g) {
-    EXPECT_EQ(X.Ix->lead(g), plain.leads[at(g)]);
-    EXPECT_TRUE(std::ranges::equal(X.Ix->tail(g), plain.tails[at(g)]));
+    EXPECT_EQ(X.Ix->lead(g), plain.leads[g]);
+    EXPECT_TRUE(std::ranges::equal(X.Ix->tail(g), plain.tails[g]));
   }
 }
 
@@ -143,7 +143,7 @@ void expect_as_in_the_plain_walk(const std::vector<coordinates>& points) {
   expect_basis(X, plain);
   const std::vector<plain_walk::row> separators = plain.separators();
   for (int i = 0; i < X.s; ++i) {
-    EXPECT_TRUE(std::ranges::equal(X.separator.row(i), separators[at(i)]));
+    EXPECT_TRUE(std::ranges::equal(X.separator.row(i), separators[i]));
   }
 }
 
@@ -171,8 +171,8 @@ TEST(BuMo, IsThePlainAlgorithmOnMeaninglessPointsButForSeparators) {
     bu_mo(X);
     const plain_walk plain(X);
     std::vector<monom> O = plain.O;
-    filled_up += O.size() < at(X.s) ? 1 : 0;
-    O.resize(at(X.s));
+    filled_up += std::ssize(O) < X.s ? 1 : 0;
+    O.resize(X.s);
     EXPECT_EQ(printed_monomials(X.O), printed_monomials(O));
     EXPECT_EQ(printed_monomials(X.B), printed_monomials(plain.B));
     expect_basis(X, plain);
@@ -234,7 +234,7 @@ TEST(BuMo, IsTheWalkOverAListWhereNoCountIsLost) {
     EXPECT_EQ(walk.O, X.O);
     EXPECT_EQ(walk.B, X.B);
     ASSERT_EQ(static_cast<int>(walk.leads.size()), X.Ix->no_of_gens());
-    for (int g = 0; g < X.Ix->no_of_gens(); ++g) EXPECT_EQ(walk.leads[at(g)], X.Ix->lead(g));
+    for (int g = 0; g < X.Ix->no_of_gens(); ++g) EXPECT_EQ(walk.leads[g], X.Ix->lead(g));
   });
 }
 
@@ -245,7 +245,7 @@ TEST(BuMo, SurvivesEveryCompositeCharacteristic) {
     scheme X = make_set(random_points(20, random));
     const silence quiet;
     bu_mo(X);
-    EXPECT_EQ(X.O.size(), at(X.s));
+    EXPECT_EQ(std::ssize(X.O), X.s);
     EXPECT_EQ(X.separator.rows(), X.s);
   }
 }

@@ -111,8 +111,8 @@ TEST(Hilbert, AgreesWithRanksOfEvaluationMatrices) {
       const std::vector<int> expected = plain_facts(points).hilbert;
       EXPECT_EQ(X.sigma + 2, static_cast<int>(expected.size()));
       for (int d = 0; d < X.s; ++d) {
-        EXPECT_EQ(X.hilb_fct[at(d)], d < X.sigma + 1 ? expected[at(d)] : X.s);
-        EXPECT_EQ(X.delta_fct[at(d)], hilbert_function(X, d) - hilbert_function(X, d - 1));
+        EXPECT_EQ(X.hilb_fct[d], d < X.sigma + 1 ? expected[d] : X.s);
+        EXPECT_EQ(X.delta_fct[d], hilbert_function(X, d) - hilbert_function(X, d - 1));
       }
       EXPECT_EQ(X.delta, difference_function(X, X.sigma + 1));
     }
@@ -126,7 +126,7 @@ int plain_alpha(const std::vector<coordinates>& points) {
   int forms = 0;
   for (int d = 0;; ++d) {
     forms += static_cast<int>(monomials_of_degree(d).size());
-    if (forms > (at(d) < conditions.size() ? conditions[at(d)] : conditions.back())) return d;
+    if (forms > (d < std::ssize(conditions) ? conditions[d] : conditions.back())) return d;
   }
 }
 
@@ -147,7 +147,7 @@ TEST(Hilbert, SymmetryIsAskedOfAllDegreesUpToSigma) {
     ASSERT_EQ(X.is_ar_Go, 1);
     for (int d = 0; d < s; ++d) {
       scheme Y = X;
-      ++Y.hilb_fct[at(d)];
+      ++Y.hilb_fct[d];
       hilbert2(Y);
       EXPECT_EQ(Y.is_CB, 1);
       // A single point has H(0) + H(-1) = 1.

@@ -7,7 +7,6 @@
 #include <random>
 #include <vector>
 
-#include "base/index.h"
 #include "tests/draw.h"
 #include "tests/points/point_sets.h"
 #include "tests/ring_in_force.h"
@@ -91,13 +90,13 @@ TEST(SeparatorTable, SurvivesRowsWithoutInversesInACompositeCharacteristic) {
 rows dependent_rows(int s, std::mt19937& random) {
   rows drawn;
   for (int i = 0; i < s + s / 2 + 2; ++i) {
-    row r(at(s));
+    row r(s);
     for (Fp8& value : r) value = below(random, Fp8::prime);
     if (i > 0 && below(random, 3) == 0) {
       std::fill(r.begin(), r.end(), Fp8(0));
       for (const row& before : drawn) {
         const Fp8 c(below(random, Fp8::prime));
-        for (int x = 0; x < s; ++x) r[at(x)] += c * before[at(x)];
+        for (int x = 0; x < s; ++x) r[x] += c * before[x];
       }
     }
     drawn.push_back(r);
@@ -176,7 +175,7 @@ TEST(SeparatorTable, HoldsForEachPivotWhatIsOneThereAndZeroAtTheOthers) {
     if (verdicts[i].joined) members.push_back(values[i]);
   }
   const matrix f = table.separators();
-  std::vector<row> found(at(s), row(at(s)));
+  std::vector<row> found(s, row(s));
   std::vector<int> pivots;
   for (int i = 0; i < s; ++i) {
     if (f.row(i).end() !=
@@ -184,13 +183,12 @@ TEST(SeparatorTable, HoldsForEachPivotWhatIsOneThereAndZeroAtTheOthers) {
       pivots.push_back(i);
     }
     for (std::size_t k = 0; k < members.size(); ++k) {
-      for (int x = 0; x < s; ++x)
-        found[at(i)][at(x)] += f[i][static_cast<int>(k)] * members[k][at(x)];
+      for (int x = 0; x < s; ++x) found[i][x] += f[i][static_cast<int>(k)] * members[k][x];
     }
   }
   ASSERT_EQ(pivots.size(), members.size());
   for (const int i : pivots) {
-    for (const int x : pivots) EXPECT_EQ(found[at(i)][at(x)], Fp8(i == x ? 1 : 0));
+    for (const int x : pivots) EXPECT_EQ(found[i][x], Fp8(i == x ? 1 : 0));
   }
 }
 

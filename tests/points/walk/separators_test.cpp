@@ -112,7 +112,7 @@ TEST_P(SeparatorsProperty, AreOneAtTheirPointAndZeroAtTheOthers) {
       need_sep(X);
       for (int i = 0; i < X.s; ++i) {
         const polynomial f = separator_of(X, i);
-        for (int k = 0; k < X.s; ++k) EXPECT_EQ(value_at(f, points[at(k)]), i == k ? 1 : 0);
+        for (int k = 0; k < X.s; ++k) EXPECT_EQ(value_at(f, points[k]), i == k ? 1 : 0);
         for (int k = 0; k < f.no_of_monoms(); ++k) EXPECT_GE(is_el_OO(X, f.term(k)), 0);
       }
     }
