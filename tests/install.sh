@@ -2,8 +2,8 @@
 # Installs the program into an empty folder and through its Debian package, and looks whether all of it
 # is there and works.
 #   install.sh BUILD TOP
-# Leaves out the package where the tools that make it are missing, and what groff says of the manual
-# page where groff is.
+# Leaves out the package where the tools that make it are missing, what groff says of the manual page
+# where groff is, and what lintian says of the package where lintian is.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/checks.sh"
 build=$(realpath "$1")
@@ -22,10 +22,15 @@ trap tidy_up EXIT
 # What has to be in a prefix, sorted.
 expected_files() {
   {
-    printf '%s\n' bin/zep share/man/man1/zep.1 share/bash-completion/completions/zep \
-      share/doc/zep/README.md share/doc/zep/guide.md
+    printf '%s\n' bin/zep share/man/man1/zep.1.gz share/bash-completion/completions/zep \
+      share/doc/zep/{README.md,changelog.gz,copyright,guide.md}
     (cd "$top" && printf 'share/doc/zep/%s\n' examples/README.md examples/*.zep examples/*.txt)
   } | LC_ALL=C sort
+}
+
+# is_compressed FILE: as far as it goes, and without a name or a time.
+is_compressed() {
+  gzip -dc "$1" | gzip -9 --no-name | cmp - "$1" || complain "$1: compressed in another way"
 }
 
 # prefix_works FOLDER: the files in it, their permissions, and a session.
@@ -37,6 +42,9 @@ prefix_works() {
   [ -z "$(find "$1" -type f ! -path "$1/bin/*" ! -perm 0644)" ] || complain "$1: permissions"
   cmp "$top/README.md" "$doc/README.md" || failed=1
   cmp "$top/docs/guide.md" "$doc/guide.md" || failed=1
+  cmp "$top/tools/copyright" "$doc/copyright" || failed=1
+  is_compressed "$1/share/man/man1/zep.1.gz"
+  is_compressed "$doc/changelog.gz"
   diff -r "$top/examples" "$doc/examples" || failed=1
   mkdir "$work/run"
   (cd "$work/run" && timeout 60 "$1/bin/zep" <"$doc/examples/five-points.zep" >"$work/out") ||
@@ -63,6 +71,23 @@ manual_is_complete() {
   if command -v groff >/dev/null; then
     groff -man -Tascii -ww -z "$page" >"$work/warnings" 2>&1 || failed=1
     diff -u /dev/null "$work/warnings" || complain "groff warns of the manual page"
+  fi
+}
+
+# items MARK: the items of a changelog, whose first lines begin with the mark.
+items() { grep -E "^($1|  ) *[^][ ]" | sed "s/^$1//; s/^ *//"; }
+
+changelog_is_complete() {
+  gzip -dc "$prefix/share/doc/zep/changelog.gz" >"$work/changelog"
+  [ "$(head -1 "$work/changelog")" = "zep ($version) unstable; urgency=medium" ] ||
+    complain "the changelog begins with another version"
+  sed -n '/^## /,$p' "$top/CHANGELOG.md" | items - >"$work/items"
+  [ -s "$work/items" ] || complain "CHANGELOG.md has no items"
+  diff -u "$work/items" <(items '  [*]' <"$work/changelog") || complain "the changelog has other items"
+  ! grep -E '^.{81}' "$work/changelog" || complain "the changelog has lines that are too long"
+  if command -v dpkg-parsechangelog >/dev/null; then
+    dpkg-parsechangelog -l "$work/changelog" --all >"$work/parsed" 2>"$work/warnings" || failed=1
+    diff -u /dev/null "$work/warnings" || complain "dpkg warns of the changelog"
   fi
 }
 
@@ -125,18 +150,33 @@ package_works() {
 Package: zep
 Version: $version
 Section: math
-Maintainer: ZEP developers <zep@localhost>
+Maintainer: ZEP developers <developers@zep.invalid>
 END
   dpkg-deb -f "$package" Depends | grep -qw libc6 || complain "the package has no dependencies"
+  policy_is_kept "$package"
+}
+
+# policy_is_kept PACKAGE: lintian sees no error in it.
+policy_is_kept() {
+  if ! command -v lintian >/dev/null; then
+    echo "lintian is missing: the package is not held against Debian's policy"
+    return
+  fi
+  if ! lintian --no-cfg --fail-on error "$1" >"$work/log" 2>&1; then
+    cat "$work/log"
+    complain "lintian finds errors"
+  fi
 }
 
 prefix=$work/prefix
-page=$prefix/share/man/man1/zep.1
+page=$work/zep.1
 cmake --install "$build" --prefix "$prefix" >/dev/null
+gzip -dc "$prefix/share/man/man1/zep.1.gz" >"$page"
 version=$("$prefix/bin/zep" --version)
 version=${version#zep }
 prefix_works "$prefix"
 manual_is_complete
+changelog_is_complete
 completion_is_complete
 package_works
 exit "$failed"

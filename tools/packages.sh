@@ -30,7 +30,7 @@ need_packages() {
 }
 
 build_packages=(g++ make cmake libgmp-dev libreadline-dev)
-test_packages=(libgtest-dev libbenchmark-dev dpkg-dev file groff-base)
+test_packages=(libgtest-dev libbenchmark-dev dpkg-dev file groff-base lintian)
 lint_packages=(clang-format clang-tidy cppcheck)
 coverage_packages=(gcovr)
 fuzz_packages=(clang libclang-rt-dev llvm)

@@ -1,20 +1,34 @@
 # What `cmake --install` puts where, and the Debian package that `cpack` makes of it.
 include(GNUInstallDirs)
 
-# The manual page names the commands of the program that was built.
+# To be found in the package, and in the changelog in it. The host is one that nobody can have.
+set(maintainer "ZEP developers <developers@zep.invalid>")
+
+# The manual page names the commands of the program that was built. It and the changelog are
+# compressed as Debian wants it, with no time in them, so that the same sources give the same bytes.
 set(manual ${PROJECT_BINARY_DIR}/docs/zep.1)
+set(changelog ${PROJECT_BINARY_DIR}/docs/changelog)
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/docs)
-add_custom_command(OUTPUT ${manual}
+add_custom_command(OUTPUT ${manual} ${manual}.gz
   COMMAND ${PROJECT_SOURCE_DIR}/tools/manual.sh $<TARGET_FILE:zep>
           ${PROJECT_SOURCE_DIR}/docs/zep.1.in ${manual}
+  COMMAND gzip -9 --no-name --keep --force ${manual}
   DEPENDS zep docs/zep.1.in tools/manual.sh
   COMMENT "Writing the manual page"
   VERBATIM)
-add_custom_target(manual ALL DEPENDS ${manual})
+add_custom_command(OUTPUT ${changelog} ${changelog}.gz
+  COMMAND ${PROJECT_SOURCE_DIR}/tools/changelog.sh
+          ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${maintainer} ${changelog}
+  COMMAND gzip -9 --no-name --keep --force ${changelog}
+  DEPENDS CHANGELOG.md tools/changelog.sh
+  COMMENT "Writing the changelog"
+  VERBATIM)
+add_custom_target(manual ALL DEPENDS ${manual}.gz ${changelog}.gz)
 
 install(TARGETS zep)
-install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES README.md docs/guide.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${manual}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES README.md docs/guide.md tools/copyright ${changelog}.gz
+        DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR}
         FILES_MATCHING PATTERN *.zep PATTERN *.txt PATTERN README.md)
 install(FILES tools/zep.bash-completion
@@ -23,7 +37,7 @@ install(FILES tools/zep.bash-completion
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zep)
 set(CPACK_PACKAGE_VENDOR "ZEP developers")
-set(CPACK_PACKAGE_CONTACT "ZEP developers <zep@localhost>")
+set(CPACK_PACKAGE_CONTACT ${maintainer})
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
