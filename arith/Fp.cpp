@@ -9,12 +9,10 @@
 
 namespace zep::arith {
 
-int Fp::prime = 31991;
-
 bool Fp::is_unit() const { return std::gcd(q_, prime) == 1; }
 
 void Fp::invert() {
-  if (!is_unit()) division_by_zero("Fp");
+  if (!is_unit()) throw division_by_zero{"Fp"};
   int r0 = prime;
   int r1 = (q_ % prime + prime) % prime;
   int s0 = 0;
@@ -27,26 +25,12 @@ void Fp::invert() {
   q_ = (prime + s1) % prime;
 }
 
-Fp pow(Fp x, int n) {
-  unsigned e = n < 0 ? 0U - static_cast<unsigned>(n) : static_cast<unsigned>(n);
-  // The first power is x as it is, reduced or not.
-  if (e == 1) return x;
-  Fp power(1);
-  for (; e > 1; e >>= 1U) {
-    if ((e & 1U) != 0) power *= x;
-    x *= x;
-  }
-  return e == 1 ? power * x : power;
-}
-
 int symmetric(Fp x) { return x.value() > Fp::prime / 2 ? x.value() - Fp::prime : x.value(); }
 
 int sign(Fp x) {
   if (x == 0) return 0;
   return x.value() <= Fp::prime / 2 ? 1 : -1;
 }
-
-Fp abs(Fp x) { return sign(x) == -1 ? -x : x; }
 
 std::ostream& operator<<(std::ostream& out, Fp x) { return out << symmetric(x); }
 
@@ -70,8 +54,6 @@ int len(int n) {
   for (long long limit = 10; width < 5 && magnitude >= limit; limit *= 10) ++width;
   return width + (n < 0 ? 1 : 0);
 }
-
-int len(const Rational& r) { return static_cast<int>(r.get_str().size()); }
 
 int len(Fp x) { return len(symmetric(x)); }
 

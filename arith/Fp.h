@@ -5,6 +5,7 @@
 #include <iosfwd>
 
 #include "arith/reading.h"
+#include "arith/ring.h"
 
 namespace zep::arith {
 
@@ -14,9 +15,8 @@ namespace zep::arith {
 // prints as 0).
 class Fp {
  public:
-  // The characteristic, kept equal to Fp8::prime by Fp8::init. Products of two elements must fit
-  // an int.
-  static int prime;
+  // The characteristic of the ring in force.
+  static constexpr const int& prime = ring_data::p;
 
   Fp() = default;
   explicit Fp(int n) : q_(n) {}
@@ -42,7 +42,7 @@ class Fp {
     q_ = q_ * b.q_ % prime;
     return *this;
   }
-  // A divisor without an inverse is a division by zero.
+  // Throws division_by_zero for a divisor without an inverse.
   Fp& operator/=(Fp b) {
     b.invert();
     return *this *= b;
@@ -52,7 +52,7 @@ class Fp {
   // of zero.
   bool is_unit() const;
 
-  // Replaces the element by its inverse (extended Euclid). Without one: division by zero.
+  // Replaces the element by its inverse (extended Euclid). Throws division_by_zero without one.
   void invert();
 
  private:
@@ -66,29 +66,22 @@ inline Fp operator-(Fp a, Fp b) { return a -= b; }
 inline Fp operator*(Fp a, Fp b) { return a *= b; }
 inline Fp operator/(Fp a, Fp b) { return a /= b; }
 
-// x to the power |n|.
-Fp pow(Fp x, int n);
-
 // The representative that is printed: v - p for v > p/2, else v.
 int symmetric(Fp x);
 
 // 0 for 0, 1 for a value up to p/2, else -1.
 int sign(Fp x);
 
-// The negative of an element of sign -1, the element itself otherwise.
-Fp abs(Fp x);
-
 // Prints the symmetric representative.
 std::ostream& operator<<(std::ostream& out, Fp x);
 
 // Reads a rational number (see reading.h) and reduces it to 0 .. p-1; fails as read_rational does,
 // with 0.
-// A denominator without an inverse is a division by zero.
+// Throws division_by_zero for a denominator without an inverse.
 std::istream& operator>>(std::istream& in, Fp& x);
 
 // Printed widths. `len(int)` counts at most five digits, and one more for a minus sign.
 int len(int n);
-int len(const Rational& r);
 int len(Fp x);
 
 }  // namespace zep::arith

@@ -1,5 +1,7 @@
 #include "arith/Fp8.h"
 
+#include <cstddef>
+#include <cstring>
 #include <ostream>
 
 #include "arith/Fp.h"
@@ -7,12 +9,11 @@
 
 namespace zep::arith {
 
-int Fp8::prime = 101;
-std::uint32_t Fp8::reciprocal = 0xFFFFFFFF / 101;
-Fp8::table Fp8::add;
-Fp8::table Fp8::sub;
-Fp8::table Fp8::mul;
-Fp8::table Fp8::div;
+int Fp8::filled_for_ = 0;
+Fp8::table Fp8::add_;
+Fp8::table Fp8::sub_;
+Fp8::table Fp8::mul_;
+Fp8::table Fp8::div_;
 
 namespace {
 
@@ -25,25 +26,29 @@ std::uint8_t inverse_or_zero(int b) {
 
 }  // namespace
 
-void Fp8::init() {
-  Fp::prime = prime;
-  reciprocal = 0xFFFFFFFF / static_cast<std::uint32_t>(prime);
+void Fp8::fill_tables() {
+  if (filled_for_ == prime) return;
+  // What an earlier characteristic has left.
+  for (table* const entries : {&add_, &sub_, &mul_, &div_}) {
+    std::memset(*entries, 0, sizeof **entries * static_cast<std::size_t>(filled_for_));
+  }
+  filled_for_ = prime;
   for (int a = 0; a < prime; ++a) {
     for (int b = 0; b < prime; ++b) {
-      add[a][b] = static_cast<std::uint8_t>((a + b) % prime);
-      sub[a][b] = static_cast<std::uint8_t>((a - b + prime) % prime);
-      mul[a][b] = static_cast<std::uint8_t>(a * b % prime);
+      add_[a][b] = static_cast<std::uint8_t>((a + b) % prime);
+      sub_[a][b] = static_cast<std::uint8_t>((a - b + prime) % prime);
+      mul_[a][b] = static_cast<std::uint8_t>(a * b % prime);
     }
   }
   // a / b as a times the inverse of b: one extended Euclid a column instead of one an entry.
   for (int b = 1; b < prime; ++b) {
     const std::uint8_t inverse = inverse_or_zero(b);
-    for (int a = 0; a < prime; ++a) div[a][b] = mul[a][inverse];
+    for (int a = 0; a < prime; ++a) div_[a][b] = mul_[a][inverse];
   }
 }
 
 void Fp8::invert() {
-  if (q_ == 0) division_by_zero("Fp8");
+  if (q_ == 0) throw division_by_zero{"Fp8"};
   q_ = div[1][q_];
 }
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <iosfwd>
 
-#include "base/floors.h"
+#include "arith/ring.h"
 
 namespace zep::arith {
 
@@ -13,21 +13,34 @@ constexpr int largest_prime = 251;
 
 // An element of F_p for p <= 251, p = `prime`: the representative 0 .. p-1 in one byte.
 //
-// Every operator is a single look-up in a 256 x 256 table, entry [left][right], filled by `init`.
-// Column 0 of `div` is 0: division by zero gives 0 without a word, only `invert` reports it.
-// In a composite characteristic the same holds for every divisor without an inverse.
+// Every operator is a single look-up in a 256 x 256 table, entry [left][right], filled when a ring
+// is put in force; rows and columns from p on are 0. Column 0 of `div` is 0: division by zero gives
+// 0 without a word, only `invert` reports it. In a composite characteristic the same holds for
+// every divisor without an inverse.
 class Fp8 {
  public:
   using table = std::uint8_t[256][256];
 
-  static int prime;
-  // floor((2^32 - 1) / prime), for reductions by multiplication over whole rows.
-  static std::uint32_t reciprocal;
-  static table add, sub, mul, div;
+ private:
+  friend void enforce(const ring& R);
 
-  // Fills the tables for the current `prime` (2 .. 251) and makes it the prime of Fp too. Elements
-  // made before are meaningless afterwards.
-  static void init();
+  static void fill_tables();
+
+  // The characteristic that the tables are filled for; 0 at first.
+  static int filled_for_;
+  static table add_;
+  static table sub_;
+  static table mul_;
+  static table div_;
+
+ public:
+  static constexpr const int& prime = ring_data::p;
+  // floor((2^32 - 1) / prime), for reductions by multiplication over whole rows.
+  static constexpr const std::uint32_t& reciprocal = ring_data::reciprocal;
+  static constexpr const table& add = add_;
+  static constexpr const table& sub = sub_;
+  static constexpr const table& mul = mul_;
+  static constexpr const table& div = div_;
 
   Fp8() = default;
   // Stores the low byte of n as it is; callers pass 0 .. p-1.
@@ -49,8 +62,7 @@ class Fp8 {
   Fp8& operator*=(Fp8 b) { return store(mul[q_][b.q_]); }
   Fp8& operator/=(Fp8 b) { return store(div[q_][b.q_]); }
 
-  // Replaces the element by its inverse. Zero: says so on standard output and ends the process with
-  // status 1.
+  // Replaces the element by its inverse. Throws division_by_zero for zero.
   void invert();
 
  private:

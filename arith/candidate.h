@@ -1,7 +1,6 @@
 // Candidate monomials of a walk over the monomials (Buchberger-Moeller).
 #pragma once
 
-#include "arith/list.h"
 #include "arith/ordering.h"
 
 namespace zep::arith {
@@ -19,9 +18,5 @@ struct mmm {
 inline bool operator==(const mmm& a, const mmm& b) { return a.t == b.t; }
 inline bool operator<(const mmm& a, const mmm& b) { return a.t < b.t; }
 inline bool operator>(const mmm& a, const mmm& b) { return a.t > b.t; }
-
-// True when the list holds a candidate equal to m. The first match is credited with one more `ins`;
-// but where it is the last item, m itself is credited, which counts nothing once m is discarded.
-bool element(list<mmm>& candidates, mmm& m);
 
 }  // namespace zep::arith

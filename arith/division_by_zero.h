@@ -7,8 +7,11 @@
 
 namespace zep::arith {
 
-// Says on standard output that `field` ("Fp", "Fp8") divided by zero, and ends the process with
-// status 1.
-[[noreturn]] void division_by_zero(std::string_view field);
+// Thrown where a divisor has no inverse, by the field that noticed, "Fp" or "Fp8". Only a number
+// that is read can bring it about: no computation divides by zero. It is no std::exception: whoever
+// reads numbers has to know of it.
+struct division_by_zero {
+  std::string_view field;
+};
 
 }  // namespace zep::arith

@@ -1,8 +1,6 @@
-// Work sets of the point algorithms: filled by appending, emptied smallest first.
+// The work set of the socle: filled by appending, emptied smallest first.
 #pragma once
 
-#include <algorithm>
-#include <concepts>
 #include <iterator>
 #include <list>
 #include <utility>
@@ -26,16 +24,6 @@ class list {
   // Appends a copy of x; duplicates are allowed.
   void add(const T& x) { items_.push_back(x); }
   void add(T&& x) { items_.push_back(std::move(x)); }
-
-  // True when an item equals x.
-  bool is_element(const T& x) const requires std::same_as<T, monom> {
-    return std::find(items_.begin(), items_.end(), x) != items_.end();
-  }
-
-  // Appends x unless it is an element.
-  void add_set(const T& x) requires std::same_as<T, monom> {
-    if (!is_element(x)) add(x);
-  }
 
   // Moves the smallest item into `out`. Among equal smallest items the earliest behind the head is
   // taken, the head last. The list must not be empty.

@@ -38,17 +38,13 @@ bool operator==(const monom& a, const monom& b) { return equal_below(a, b, commo
 bool aff_eq(const monom& a, const monom& b) { return equal_below(a, b, proj - 1); }
 
 monom operator*(const monom& a, const monom& b) {
-  monom product;
-  const int slots = std::min(common_slots(a, b), product.dim());
-  for (int i = 0; i < slots; ++i) product.set_exp(i, a.exp(i) + b.exp(i));
-  return product;
+  monom product = a;
+  return product *= b;
 }
 
 monom operator/(const monom& a, const monom& b) {
-  monom quotient;
-  const int slots = std::min(common_slots(a, b), quotient.dim());
-  for (int i = 0; i < slots; ++i) quotient.set_exp(i, a.exp(i) - b.exp(i));
-  return quotient;
+  monom quotient = a;
+  return quotient /= b;
 }
 
 monom lcm(const monom& a, const monom& b) {
@@ -65,6 +61,13 @@ monom gcd(const monom& a, const monom& b) {
 
 monom variable(int i) {
   monom m;
+  m.set_exp(i, 1);
+  return m;
+}
+
+monom projective_variable(int i) {
+  monom m;
+  prj(m);
   m.set_exp(i, 1);
   return m;
 }
@@ -100,7 +103,7 @@ char* write_variables(char* to, const monom& m, text_form form) {
   for (int i = 0; i < m.dim(); ++i) {
     const int e = m.exp(i);
     if (e == 0) continue;
-    *to++ = varstring[i];
+    *to++ = ring_data::names[i];
     if (e == 1) continue;
     if (form == text_form::screen) *to++ = '^';
     to = write_number(to, e);

@@ -13,8 +13,8 @@
 namespace zep::arith {
 
 // A monomial: affine, in the first `dim` variables, or projective, in all `proj` of them with the
-// homogenising variable last. The member `dim` is its own number of slots; in this comment the
-// global one is called the ring's. A small value, copied as bytes, never allocated.
+// homogenising variable last. The member `dim` is its own number of slots. A small value, copied as
+// bytes, never allocated.
 //
 //     slot   0 .. proj - 2     proj - 1         beyond
 //            affine variables  homogenising     always 0
@@ -24,7 +24,7 @@ class monom {
  public:
   using exponent = std::int16_t;
 
-  // All `proj` slots hold c; `dim` is the ring's. monom() is the monomial 1.
+  // An affine monomial whose `proj` slots all hold c. monom() is the monomial 1.
   explicit monom(exponent c = 0) {
     *this = c;
     dim_ = static_cast<std::int16_t>(arith::dim);
@@ -75,7 +75,7 @@ bool operator==(const monom& a, const monom& b);
 // Equality over the affine slots.
 bool aff_eq(const monom& a, const monom& b);
 
-// Product and quotient, with the ring's `dim`: raise it to get projective ones.
+// Product and quotient, of the kind of a.
 monom operator*(const monom& a, const monom& b);
 monom operator/(const monom& a, const monom& b);
 
@@ -83,8 +83,9 @@ monom operator/(const monom& a, const monom& b);
 monom lcm(const monom& a, const monom& b);
 monom gcd(const monom& a, const monom& b);
 
-// The monomial of variable i, affine or projective as the ring's `dim` says. Requires i < dim.
+// The affine monomial of variable i, 0 <= i < dim; the projective one, 0 <= i < proj.
 monom variable(int i);
+monom projective_variable(int i);
 
 // 0 for the monomial 1, else 1.
 int sign(const monom& m);
@@ -111,7 +112,7 @@ void append(std::string& text, const monom& m, text_form form);
 // Writes the monomial from `to` on, the monomial 1 as nothing, as behind a
 // coefficient. Returns the end of what was written, at most longest_monom characters.
 char* write_variables(char* to, const monom& m, text_form form);
-constexpr std::size_t longest_monom = max_variables * (2 + longest_number);
+inline constexpr std::size_t longest_monom = max_variables * (2 + longest_number);
 
 // Screen form.
 std::ostream& operator<<(std::ostream& out, const monom& m);

@@ -73,15 +73,6 @@ bool proj_degrevlex_le(const monom& a, const monom& b) {
   return degrevlex_lt(a, b) || (aff_eq(a, b) && homogenising_difference(a, b) <= 0);
 }
 
-bool Zn_order_lt(const monom& a, const monom& b) {
-  bool smaller = false;
-  for (int i = 0; i < a.dim(); ++i) {
-    if (a.exp(i) > b.exp(i)) return false;
-    smaller = smaller || a.exp(i) < b.exp(i);
-  }
-  return smaller;
-}
-
 bool Zn_order_le(const monom& a, const monom& b) {
   for (int i = 0; i < a.dim(); ++i) {
     if (a.exp(i) > b.exp(i)) return false;
@@ -89,26 +80,17 @@ bool Zn_order_le(const monom& a, const monom& b) {
   return true;
 }
 
-int monom_ordering = 1;
-monom_comparison monom_ordering_lt = degrevlex_lt;
-monom_comparison monom_ordering_le = degrevlex_le;
-monom_comparison proj_monom_ordering_lt = proj_degrevlex_lt;
-monom_comparison proj_monom_ordering_le = proj_degrevlex_le;
+monom_comparison order_in_force::lt_ = degrevlex_lt;
+monom_comparison order_in_force::le_ = degrevlex_le;
+monom_comparison order_in_force::proj_lt_ = proj_degrevlex_lt;
+monom_comparison order_in_force::proj_le_ = proj_degrevlex_le;
 
-void use_deglex() {
-  monom_ordering = 0;
-  monom_ordering_lt = deglex_lt;
-  monom_ordering_le = deglex_le;
-  proj_monom_ordering_lt = proj_deglex_lt;
-  proj_monom_ordering_le = proj_deglex_le;
-}
-
-void use_degrevlex() {
-  monom_ordering = 1;
-  monom_ordering_lt = degrevlex_lt;
-  monom_ordering_le = degrevlex_le;
-  proj_monom_ordering_lt = proj_degrevlex_lt;
-  proj_monom_ordering_le = proj_degrevlex_le;
+void order_in_force::set(term_order order) {
+  const bool lexicographic = order == term_order::deglex;
+  lt_ = lexicographic ? deglex_lt : degrevlex_lt;
+  le_ = lexicographic ? deglex_le : degrevlex_le;
+  proj_lt_ = lexicographic ? proj_deglex_lt : proj_degrevlex_lt;
+  proj_le_ = lexicographic ? proj_deglex_le : proj_degrevlex_le;
 }
 
 }  // namespace zep::arith

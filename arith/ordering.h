@@ -1,5 +1,4 @@
-// Term orders. Plain functions on two monomials, reached through four global pointers, so that one
-// command switches the order of the whole system.
+// Term orders: plain functions on two monomials, and the order of the ring in force.
 //
 // In every order the variables rank X > Y > Z > ... . Affine orders look at the first `proj` - 1
 // slots, whatever `dim` a monomial has. Projective orders compare affine parts first; only when
@@ -27,20 +26,30 @@ bool proj_deglex_le(const monom& a, const monom& b);
 bool proj_degrevlex_lt(const monom& a, const monom& b);
 bool proj_degrevlex_le(const monom& a, const monom& b);
 
-// Divisibility, over all slots of a: a properly divides b; a divides b.
-bool Zn_order_lt(const monom& a, const monom& b);
+// Divisibility, over all slots of a: a divides b.
 bool Zn_order_le(const monom& a, const monom& b);
 
-// The order in force: 0 degree-lexicographic, 1 degree-reverse-lexicographic.
-extern int monom_ordering;
-extern monom_comparison monom_ordering_lt;
-extern monom_comparison monom_ordering_le;
-extern monom_comparison proj_monom_ordering_lt;
-extern monom_comparison proj_monom_ordering_le;
+// The comparisons of the order in force.
+class order_in_force {
+  friend void enforce(const ring& R);
 
-// Put an order in force. Polynomials made before are meaningless afterwards.
-void use_deglex();
-void use_degrevlex();
+  static void set(term_order order);
+
+  static monom_comparison lt_;
+  static monom_comparison le_;
+  static monom_comparison proj_lt_;
+  static monom_comparison proj_le_;
+
+ public:
+  static constexpr const monom_comparison& lt = lt_;
+  static constexpr const monom_comparison& le = le_;
+  static constexpr const monom_comparison& proj_lt = proj_lt_;
+  static constexpr const monom_comparison& proj_le = proj_le_;
+};
+inline constexpr const monom_comparison& monom_ordering_lt = order_in_force::lt;
+inline constexpr const monom_comparison& monom_ordering_le = order_in_force::le;
+inline constexpr const monom_comparison& proj_monom_ordering_lt = order_in_force::proj_lt;
+inline constexpr const monom_comparison& proj_monom_ordering_le = order_in_force::proj_le;
 
 // Order under the order in force: projective when both monomials are projective.
 inline bool both_projective(const monom& a, const monom& b) {

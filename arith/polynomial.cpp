@@ -195,19 +195,6 @@ bool operator>(const polynomial& a, const polynomial& b) { return a.term(0) > b.
 
 int sign(const polynomial& a) { return std::abs(sign(a.coef(0))); }
 
-int is_prj(const polynomial& a) { return a.term(0).exp(proj - 1); }
-
-polynomial Lf(const polynomial& f) {
-  std::vector<monom> term;
-  std::vector<Fp8> coef;
-  const int degree = f.term(0).tot_deg();
-  for (int i = 0; sign(f) != 0 && i < f.no_of_monoms() && f.term(i).tot_deg() == degree; ++i) {
-    term.push_back(f.term(i));
-    coef.push_back(f.coef(i));
-  }
-  return {std::move(term), std::move(coef)};
-}
-
 void hom(polynomial& h, const polynomial& f) {
   polynomial result = f;
   const int degree = f.term(0).tot_deg();
@@ -218,10 +205,10 @@ void hom(polynomial& h, const polynomial& f) {
   h = std::move(result);
 }
 
-std::ostream& operator<<(std::ostream& out, const polynomial& f) {
+void show(std::ostream& out, const polynomial& f, int column) {
   if (sign(f) == 0) {
-    counter += 2;
-    return out << " 0";
+    out << " 0";
+    return;
   }
   std::string text;
   term_text term{};
@@ -236,15 +223,20 @@ std::ostream& operator<<(std::ostream& out, const polynomial& f) {
     }
     end = write_term(end, f.term(i), abs(f.coef(i)), text_form::screen);
     const int width = static_cast<int>(end - term.data());
-    if (first || counter + width < LL - 1) {
-      counter += width;
+    if (first || column + width < LL - 1) {
+      column += width;
     } else {
       text += '\n';
-      counter = width;
+      column = width;
     }
     text.append(term.data(), end);
   }
-  return out << text;
+  out << text;
+}
+
+std::ostream& operator<<(std::ostream& out, const polynomial& f) {
+  show(out, f, 0);
+  return out;
 }
 
 void polynomial::put(std::ostream& out) const {

@@ -12,8 +12,8 @@ namespace zep::arith {
 // A sum of terms, strictly descending in the order in force, every coefficient non-zero. The zero
 // polynomial is the single term 0 * 1, so looking at the leading coefficient tells zero.
 //
-// Affine polynomials have affine terms; `hom` and products with projective monomials make
-// projective ones. Sums compare the affine parts of terms only, in both kinds.
+// Affine polynomials have affine terms; `hom` makes projective ones, whose products with projective
+// monomials are projective. Sums compare the affine parts of terms only, in both kinds.
 //
 // A polynomial that was moved from may only be assigned to or destroyed.
 class polynomial {
@@ -77,17 +77,14 @@ bool operator>(const polynomial& a, const polynomial& b);
 // 0 for zero, else 1.
 int sign(const polynomial& a);
 
-// Exponent of the homogenising variable in the leading monomial.
-int is_prj(const polynomial& a);
-
-// Leading form: the terms of the degree of the leading term, up to the first term of another.
-polynomial Lf(const polynomial& f);
-
 // Makes h the homogenisation of f to the degree of its leading term; the order of terms is f's.
 void hom(polynomial& h, const polynomial& f);
 
-// The screen form: X^2 - 3XY + 1. Starts at the column `counter`, advances it, and breaks the line
-// before a term that would bring it to LL - 1 or beyond, but never before the first one.
+// Writes the screen form, X^2 - 3XY + 1, on a line that has reached the given column. Breaks the
+// line before a term that would bring it to LL - 1 or beyond, but never before the first one.
+void show(std::ostream& out, const polynomial& f, int column);
+
+// The screen form from the start of a line on.
 std::ostream& operator<<(std::ostream& out, const polynomial& f);
 
 }  // namespace zep::arith

@@ -70,7 +70,7 @@ std::istream& read_rational(std::istream& in, Rational& r) {
     in.get();
     if (!take_number(in, text)) return stopped(in);
     const Integer denominator(text, 10);
-    if (denominator == 0) division_by_zero("Fp");
+    if (denominator == 0) throw division_by_zero{"Fp"};
     r /= denominator;
   }
   return complete(in);

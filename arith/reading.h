@@ -24,7 +24,8 @@ using Integer = mpz_class;
 std::istream& read_integer(std::istream& in, int& n);
 
 // Reads a, or a/b with white space allowed before b; a and b have optional signs. The value is in
-// lowest terms with a positive denominator. A zero denominator is the division by zero of Fp.
+// lowest terms with a positive denominator. Throws division_by_zero, as Fp does, for a
+// zero denominator.
 std::istream& read_rational(std::istream& in, Rational& r);
 
 }  // namespace zep::arith

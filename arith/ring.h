@@ -1,10 +1,14 @@
-// The ring in force: its variables. The field is with Fp8, the term order with ordering.
+// The ring in force: what everybody reads of it.
+//
+// There is one at a time in a process: operators on field elements and monomials must not have to
+// look for it. `enforce` alone changes it (ring_in_force.h), and all of it at once.
 //
 // Affine monomials use the first `dim` variables. Projective ones use `proj` = `dim` + 1; the last
-// of them homogenises. A computation that makes projective monomials raises `dim` to `proj` for
-// its duration with a `raised_dim`.
+// of them homogenises.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 
 #include "base/floors.h"
@@ -12,31 +16,57 @@
 namespace zep::arith {
 
 // No ring has more variables: one monomial slot each.
-constexpr int max_variables = 27;
+inline constexpr int max_variables = 27;
+
+// Names for all of them, one character each.
+inline constexpr char default_names[] = "XYZTabcdefghijklmnopqrstuvw";
+static_assert(sizeof default_names == max_variables + 1);
+
+// Both orders are compatible with degrees, which the Buchberger-Moeller algorithm relies on.
+enum class term_order { deglex, degrevlex };
+
+// The homogeneous coordinate ring of P^n over F_p. A value; most of what the program holds has a
+// meaning in one ring only.
+struct ring {
+  // 2 .. largest_prime. With a composite p nothing breaks, but results mean nothing.
+  int p = 101;
+  // 2 .. max_variables - 1.
+  int n = 3;
+  // The variables, one character each, at least n + 1 of them, the homogenising one last of these.
+  std::string names = default_names;
+  term_order order = term_order::degrevlex;
+
+  bool operator==(const ring&) const = default;
+};
+
+// The ring in force in the form in which it is read most.
+class ring_data {
+  friend void enforce(const ring& R);
+  friend const ring& current_ring();
+
+  static ring& current();
+  static int p_;
+  static std::uint32_t reciprocal_;
+  static int dim_;
+  static int proj_;
+  static std::array<char, max_variables> names_;
+
+ public:
+  static constexpr const int& p = p_;
+  static constexpr const std::uint32_t& reciprocal = reciprocal_;
+  static constexpr const int& dim = dim_;
+  static constexpr const int& proj = proj_;
+  // Those of the variables that there are; what follows means nothing.
+  static constexpr const std::array<char, max_variables>& names = names_;
+};
 
 // Number of affine variables, the dimension of the projective space.
-extern int dim;
+inline constexpr const int& dim = ring_data::dim;
 
-// Number of homogeneous coordinates; stays as it is while `dim` is raised.
-extern int proj;
+// Number of homogeneous coordinates.
+inline constexpr const int& proj = ring_data::proj;
 
-// Names of the variables, one character each, at least `proj` of them.
-extern std::string varstring;
-
-// Makes P^n the space in force: dim = n, proj = n + 1. Requires 2 <= n < max_variables.
-// Monomials made before are meaningless afterwards.
-void set_dimension(int n);
-
-// Raises the global `dim` to `proj` while it lives, so that new monomials are projective. Nests.
-class raised_dim {
- public:
-  raised_dim() : before_(dim) { dim = proj; }
-  ~raised_dim() { dim = before_; }
-  raised_dim(const raised_dim&) = delete;
-  raised_dim& operator=(const raised_dim&) = delete;
-
- private:
-  int before_;
-};
+// The ring in force; the default one before any other.
+const ring& current_ring();
 
 }  // namespace zep::arith

@@ -7,8 +7,20 @@
 //     arith
 //     linalg/kernels
 //     linalg
-//     points/ring points/walk points/ideal points/module points/strand points/record text reference
-//     front/terminal front/session front/files front/process front/commands front
+//     points/ring
+//     points/walk
+//     points/ideal
+//     points/module
+//     points/strand
+//     points/record
+//     text
+//     front/terminal
+//     front/session
+//     front/files
+//     front/process
+//     front/commands
+//     front
+//     reference
 #pragma once
 
 namespace zep::base {}

@@ -4,7 +4,7 @@ namespace zep::base {
 
 namespace {
 
-// Checks up to the one that is to throw; 0 if none is.
+// Checks up to the one that is to throw; 0 if none is. Stays 0 but in the paranoid build.
 long checks_left = 0;
 
 }  // namespace
@@ -20,7 +20,12 @@ void end_computation() {
   throw interrupted();
 }
 
-void interrupt_at_check(long k) noexcept { checks_left = k; }
+interrupt_at_check::interrupt_at_check(long k) noexcept { checks_left = paranoid ? k : 0; }
+
+interrupt_at_check::~interrupt_at_check() {
+  checks_left = 0;
+  forget_interrupt();
+}
 
 void count_check() noexcept {
   if (checks_left > 0 && --checks_left == 0) request_interrupt();

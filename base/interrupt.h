@@ -6,10 +6,9 @@
 // written, none in the loops over their elements, so that they cost nothing that can be measured
 // and even with thousands of points follow each other within hundredths of a second.
 //
-// A computation keeps everything in locals until it has succeeded and changes globals through
-// guards only, so any check may throw. It stores without a check in between. A command may be made
-// of several computations; what those before the interrupted one have stored is taken back with a
-// `results_before`.
+// A computation keeps everything in locals until it has succeeded and changes nothing that outlives
+// it but through guards, so any check may throw. What a command has made before it was interrupted
+// is taken back by whoever remembers it.
 #pragma once
 
 #include <csignal>
@@ -33,9 +32,18 @@ void forget_interrupt() noexcept;
 // Forgets the request and throws `interrupted`.
 [[noreturn]] void end_computation();
 
-// For tests of the paranoid build, where checks are counted: requests an interrupt at the k-th
-// check from now on, k >= 1; at none for k = 0. Does nothing in other builds.
-void interrupt_at_check(long k) noexcept;
+// For tests of the paranoid build, where checks are counted: while it lives, an interrupt comes at
+// the k-th check from its beginning on, k >= 1; none for k = 0. Does nothing in other builds. There
+// is one at a time.
+class interrupt_at_check {
+ public:
+  explicit interrupt_at_check(long k) noexcept;
+  ~interrupt_at_check();
+  interrupt_at_check(const interrupt_at_check&) = delete;
+  interrupt_at_check& operator=(const interrupt_at_check&) = delete;
+};
+
+// Counts a check for interrupt_at_check.
 void count_check() noexcept;
 
 // The check.

@@ -1,4 +1,8 @@
-// Progress of long computations, on standard error.
+// What computations tell on their way.
+//
+// Computations print nothing. They are handed a reporter and tell it what goes on; where that
+// appears, if anywhere, is its business: the terminal writes it between the prompts, another
+// program may move a progress bar, a test collects it.
 #pragma once
 
 #include <string_view>
@@ -7,27 +11,51 @@
 
 namespace zep::base {
 
-// 1: computations report their progress; 0: they stay quiet.
-extern int verbose;
+class reporter {
+ public:
+  reporter() = default;
+  reporter(const reporter&) = delete;
+  reporter& operator=(const reporter&) = delete;
+  virtual ~reporter() = default;
 
-// Writes the text while `verbose` is set.
-void report(std::string_view text);
+  // False when words and countdowns go nowhere, so that it is not worth while to find out what
+  // there is to tell.
+  virtual bool is_attentive() const = 0;
 
-// Writes the progress of one computation while `verbose` is set: a heading, a countdown of numbers
-// in square brackets, a line end. Writes nothing otherwise.
+  // Words with their own line end: a heading, or a number that was found.
+  virtual void say(std::string_view words) = 0;
+
+  // So many items of what the last heading announced are left, this one included.
+  virtual void count(int remaining) = 0;
+
+  // The countdown is over.
+  virtual void end_of_count() = 0;
+
+  // A computation whose end is shown is over.
+  virtual void end_of_computation() = 0;
+
+  // What was tried has come to nothing: a pair that has no syzygy.
+  virtual void mark() = 0;
+
+  // A walk over subsets has come so far that its last element can be moved so often yet.
+  virtual void advance(int remaining) = 0;
+};
+
+// The progress of one computation: a heading, a countdown of numbers, its end.
 class progress {
  public:
-  // Writes the heading, which brings its own line end.
-  explicit progress(std::string_view heading);
+  // Tells the heading, which brings its own line end. The reporter must outlive this.
+  progress(reporter& to, std::string_view heading) : to_(to) { to_.say(heading); }
 
-  // Writes "[remaining]".
-  void count(int remaining) const;
+  void count(int remaining) const { to_.count(remaining); }
 
-  // Writes the countdown from n to 1 for what is done at once.
+  // Counts from n to 1 for what is done at once.
   void count_down(int n) const;
 
-  // Ends the line of the countdown.
-  void end_line() const;
+  void end_line() const { to_.end_of_count(); }
+
+ private:
+  reporter& to_;
 };
 
 }  // namespace zep::base

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "front/session/session.h"
+#include "front/session/workspace.h"
 
 namespace zep::front {
 
@@ -32,12 +32,14 @@ struct options {
   std::uint32_t seed = default_seed;
 };
 
-// Reads the command line. An int is the exit status when nothing is left to do: help, version or
-// command reference have been printed, or something is wrong and standard error says what.
+// What the command line comes to. There is an exit status when nothing is left to do: help, version
+// or command reference have been printed, or something is wrong and standard error says what.
 struct command_line {
   std::optional<int> status;
   options chosen;
 };
+
+// Reads the command line.
 command_line read_command_line(int argc, char** argv);
 
 }  // namespace zep::front

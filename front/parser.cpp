@@ -1,43 +1,38 @@
 #include "front/parser.h"
 
 #include <iostream>
+#include <optional>
 #include <string>
 
 #include "base/interrupt.h"
 #include "front/commands/command.h"
 #include "front/commands/execution.h"
-#include "front/session/error.h"
-#include "front/terminal/prompt.h"
 
 namespace zep::front {
 
 namespace {
 
-// The identifier typed behind a command. The next line is looked at only when white space, and not
-// the line end, follows the command.
-int read_identifier(session& z) {
-  if (z.typed.at_line_end()) return no_identifier;
-  return z.var.find(z.typed.word(identifier_length));
+// The word typed behind a command that takes an identifier. The next line is looked at only when
+// white space, and not the line end, follows the command.
+std::optional<std::string> read_name(session& z) {
+  if (z.typed.at_line_end()) return std::nullopt;
+  return z.typed.word(identifier_length);
 }
 
 void carry_out(session& z, const std::string& word) {
-  const int c = find_command(word);
-  if (c >= 0) {
-    const bool takes_identifier = command[c].kind != command_kind::nothing;
-    execute(z, c, takes_identifier ? read_identifier(z) : no_identifier);
-    return;
-  }
-  const int identifier = z.var.find(word);
-  if (identifier == unknown_identifier) {
-    error(error_code::unknown_word);
+  if (const command_record* const todo = find_command(word)) {
+    const bool takes_identifier = todo->kind != command_kind::nothing;
+    execute(z, *todo, takes_identifier ? read_name(z) : std::nullopt);
+  } else if (z.shared.var.find(word) != nullptr) {
+    execute(z, *find_command("display"), word);
   } else {
-    execute(z, find_command("display"), identifier);
+    z.shared.wrong.error(error_code::unknown_word);
   }
 }
 
 void report_rest_of_line(session& z) {
   if (!z.typed.line_goes_on()) return;
-  count_error();
+  z.shared.wrong.count();
   std::cout << "unexpected '";
   z.typed.copy_rest_of_line(std::cout);
   std::cout << "'\n";
@@ -45,11 +40,13 @@ void report_rest_of_line(session& z) {
 
 }  // namespace
 
-bool has_to_stop(const session& z) { return z.stop_on_error && no_of_errors() > 0; }
+bool has_to_stop(const workspace& shared) {
+  return shared.stop_on_error && shared.wrong.number() > 0;
+}
 
 void parser(session& z) {
   // Without an output there is nobody to work for.
-  while (!z.quit && prompt(command_prompt)) {
+  while (!z.quit && z.shared.prompt.ask_for_command()) {
     try {
       carry_out(z, z.typed.word(identifier_length));
       report_rest_of_line(z);
@@ -60,7 +57,7 @@ void parser(session& z) {
       std::cerr << "interrupted\n";
       z.typed.forget();
     }
-    if (has_to_stop(z)) z.quit = true;
+    if (has_to_stop(z.shared)) z.quit = true;
   }
 }
 

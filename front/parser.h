@@ -11,6 +11,6 @@ namespace zep::front {
 void parser(session& z);
 
 // Whether an error that has been reported ends the program.
-bool has_to_stop(const session& z);
+bool has_to_stop(const workspace& shared);
 
 }  // namespace zep::front

@@ -7,8 +7,8 @@
 #include "base/output.h"
 #include "front/commands/settings.h"
 #include "front/parser.h"
+#include "front/process/process.h"
 #include "front/session_source.h"
-#include "front/terminal/prompt.h"
 #include "front/terminal/screen_line.h"
 #include "front/terminal/transcript.h"
 
@@ -16,30 +16,27 @@ namespace zep::front {
 
 namespace {
 
-void greet(session& z, bool decorated) {
-  set_defaults(z);
-  show_prompts(decorated);
+void greet(workspace& shared, bool decorated) {
+  shared.prompt.show(decorated);
   if (!decorated) return;
   hello();
   show_settings();
 }
 
-void take_leave(session& z, bool decorated) {
-  z.var.del_all(true);
+void take_leave(workspace& shared, bool decorated) {
+  shared.var.del_all(true);
   if (decorated) std::cout << Line << "thanks for using ZEP\n" << Line;
 }
 
 // Runs the session that the buffer reads, and repeats it on a stream if there is one.
-void run_session(session& z, std::istream& in, std::streambuf& buffer, std::ostream* repeat) {
+void run_session(workspace& shared, std::streambuf& buffer, std::ostream* repeat) {
   std::optional<repeated_input> repeated;
   if (repeat != nullptr) repeated.emplace(buffer, *repeat);
-  in.rdbuf(repeated ? &*repeated : &buffer);
+  std::istream in(repeated ? &*repeated : &buffer);
   // What a buffer throws comes through.
   in.exceptions(std::ios::badbit);
-  z.quit = false;
+  session z(shared, in);
   parser(z);
-  in.exceptions(std::ios::goodbit);
-  in.rdbuf(nullptr);
 }
 
 // Where lines are repeated, if anywhere. What goes to standard output is in the log already.
@@ -48,16 +45,15 @@ std::ostream* repetition(const options& chosen, const session_source& opened, st
   return chosen.log ? &log : nullptr;
 }
 
-int run_sessions(session& z, std::istream& in, const options& chosen, screen_line* screen,
-                 std::ostream& log) {
+int run_sessions(workspace& shared, const options& chosen, screen_line* screen, std::ostream& log) {
   for (const source& s : chosen.sources) {
-    session_source opened(s, z.var, screen);
+    session_source opened(s, shared, screen);
     if (!opened.is_open()) {
       std::cerr << "zep: can't open " << s.text << "\n";
       return 1;
     }
-    run_session(z, in, opened.buffer(), repetition(chosen, opened, log));
-    if (has_to_stop(z)) return 1;
+    run_session(shared, opened.buffer(), repetition(chosen, opened, log));
+    if (has_to_stop(shared)) return 1;
   }
   return 0;
 }
@@ -75,22 +71,27 @@ int run_program(const options& chosen) {
     }
     logged.emplace(std::cout, log);
   }
-  std::istream in(nullptr);
-  session z(in, chosen.seed);
-  z.stop_on_error = chosen.stop_on_error;
-  greet(z, chosen.decorated);
+  workspace shared(chosen.seed);
+  shared.stop_on_error = chosen.stop_on_error;
+  greet(shared, chosen.decorated);
   std::optional<screen_line> screen;
   if (at_a_terminal()) screen.emplace();
-  const int status = run_sessions(z, in, chosen, screen ? &*screen : nullptr, log);
-  take_leave(z, chosen.decorated);
-  return status;
+  try {
+    const int status = run_sessions(shared, chosen, screen ? &*screen : nullptr, log);
+    take_leave(shared, chosen.decorated);
+    return status;
+  } catch (const division_by_zero& fault) {
+    // While what is said goes into the log as well.
+    end_with(fault);
+  }
 }
 
 void run_program(std::istream& in) {
-  session z(in);
-  greet(z, true);
+  workspace shared;
+  greet(shared, true);
+  session z(shared, in);
   parser(z);
-  take_leave(z, true);
+  take_leave(shared, true);
 }
 
 }  // namespace zep::front

@@ -2,12 +2,12 @@
 
 #include <unistd.h>
 
-#include <ext/stdio_filebuf.h>
 #include <ios>
 #include <sstream>
 #include <string>
 
 #include "front/commands/completion.h"
+#include "front/files/descriptor_buffer.h"
 #include "front/files/open_file.h"
 #include "front/terminal/interruption.h"
 #include "front/terminal/standard_input.h"
@@ -18,30 +18,28 @@ namespace zep::front {
 namespace {
 
 std::unique_ptr<std::streambuf> file_buffer(const std::string& name) {
-  auto file = std::make_unique<__gnu_cxx::stdio_filebuf<char>>(open_source(name), std::ios::in);
+  auto file = std::make_unique<descriptor_reader>(open_source(name));
   if (!file->is_open()) return nullptr;
   return file;
 }
 
-std::unique_ptr<std::streambuf> keyboard(const identifier_table& identifiers, screen_line& screen) {
+std::unique_ptr<std::streambuf> keyboard(workspace& shared, screen_line& screen) {
   catch_interrupts();
   return std::make_unique<terminal_input>(
-      screen, [&](const std::string& prompt, const std::string& before) {
-        return complete(identifiers, prompt, before);
-      });
+      screen, shared.prompt,
+      [&](awaited what, const std::string& before) { return complete(shared.var, what, before); });
 }
 
 }  // namespace
 
 bool at_a_terminal() { return ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0; }
 
-session_source::session_source(const source& s, const identifier_table& identifiers,
-                               screen_line* screen) {
+session_source::session_source(const source& s, workspace& shared, screen_line* screen) {
   switch (s.from) {
     case source::kind::standard_input:
       is_terminal_ = screen != nullptr;
       if (is_terminal_) {
-        buffer_ = keyboard(identifiers, *screen);
+        buffer_ = keyboard(shared, *screen);
       } else {
         buffer_ = std::make_unique<standard_input>();
       }

@@ -5,7 +5,7 @@
 #include <streambuf>
 
 #include "front/options.h"
-#include "front/session/identifiers.h"
+#include "front/session/workspace.h"
 #include "front/terminal/screen_line.h"
 
 namespace zep::front {
@@ -16,9 +16,9 @@ bool at_a_terminal();
 // An opened source of a session.
 class session_source {
  public:
-  // Opens the source. Standard input gets line editing where there is a screen; it offers names out
-  // of `identifiers`. Both must outlive this.
-  session_source(const source& s, const identifier_table& identifiers, screen_line* screen);
+  // Opens the source. Standard input gets line editing where there is a screen; it offers the names
+  // in use, and knows what has been asked for. Workspace and screen must outlive this.
+  session_source(const source& s, workspace& shared, screen_line* screen);
 
   bool is_open() const { return buffer_ != nullptr; }
   // What is typed stands on the screen already.

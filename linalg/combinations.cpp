@@ -17,12 +17,13 @@ namespace {
 // c += a * b, tile by tile, for one stretch of the columns of a after the other.
 class tiled_product {
  public:
-  tiled_product(std::span<Fp8* const> c, const matrix& a, std::span<const Fp8* const> b,
-                std::size_t n, tile_kernel* kernel)
+  // There are rows in c.
+  tiled_product(std::span<const row_view> c, const matrix& a, std::span<const const_row_view> b,
+                tile_kernel* kernel)
       : c_(c),
         a_(a),
         b_(b),
-        n_(n),
+        n_(c.front().size()),
         kernel_(kernel),
         packed_a_((c.size() + tile_rows - 1) / tile_rows * tile_rows * products_in_a_tile),
         packed_b_(products_in_a_tile * tile_cols) {}
@@ -45,7 +46,7 @@ class tiled_product {
     for (std::size_t i = 0; i < c_.size(); ++i) {
       const std::size_t in_tile = i % tile_rows;
       std::int16_t* const to = packed_a_.data() + (i - in_tile) * products_in_a_tile + 2 * in_tile;
-      const Fp8* const row = a_[static_cast<int>(i)] + first_;
+      const const_row_view row = a_[static_cast<int>(i)].subspan(first_, length_);
       for (std::size_t k = 0; k < length_; ++k) {
         to[k / 2 * 2 * tile_rows + k % 2] = row[k].value();
       }
@@ -55,11 +56,11 @@ class tiled_product {
   void pack_elements(std::size_t x) {
     for (std::size_t k = 0; k < length_; k += 2) {
       std::int16_t* const to = packed_b_.data() + k * tile_cols;
-      const Fp8* const even = b_[first_ + k] + x;
+      const Fp8* const even = b_[first_ + k].data() + x;
       if (k + 1 < length_ && x + tile_cols <= n_) {
-        interleave(to, even, b_[first_ + k + 1] + x);
+        interleave(to, even, b_[first_ + k + 1].data() + x);
       } else {
-        const Fp8* const odd = k + 1 < length_ ? b_[first_ + k + 1] + x : nullptr;
+        const Fp8* const odd = k + 1 < length_ ? b_[first_ + k + 1].data() + x : nullptr;
         interleave_edge(to, even, odd, std::min(tile_cols, n_ - x));
       }
     }
@@ -90,18 +91,20 @@ class tiled_product {
     const std::size_t width = std::min(tile_cols, n_ - x);
     for (std::size_t k = 0; k < tile_rows; ++k) {
       const bool inside = k < height && width == tile_cols;
-      if (k < height && !inside) std::copy_n(c_[i + k] + x, width, beside[k].data());
-      rows[k] = reinterpret_cast<std::uint8_t*>(inside ? c_[i + k] + x : beside[k].data());
+      if (k < height && !inside) std::copy_n(c_[i + k].data() + x, width, beside[k].data());
+      rows[k] = reinterpret_cast<std::uint8_t*>(inside ? c_[i + k].data() + x : beside[k].data());
     }
     kernel_(rows.data(), packed_a_.data() + i * products_in_a_tile, packed_b_.data(),
             (length_ + 1) / 2, static_cast<lane>(Fp8::prime));
     if (width == tile_cols) return;
-    for (std::size_t k = 0; k < height; ++k) std::copy_n(beside[k].data(), width, c_[i + k] + x);
+    for (std::size_t k = 0; k < height; ++k) {
+      std::copy_n(beside[k].data(), width, c_[i + k].data() + x);
+    }
   }
 
-  std::span<Fp8* const> c_;
+  std::span<const row_view> c_;
   const matrix& a_;
-  std::span<const Fp8* const> b_;
+  std::span<const const_row_view> b_;
   std::size_t n_;
   tile_kernel* kernel_;
   // All rows of a and one column of tiles of b, for the stretch from first_ on.
@@ -117,17 +120,17 @@ constexpr std::size_t least_worth_packing = 16;
 
 }  // namespace
 
-void add_combinations(std::span<Fp8* const> c, const matrix& a, std::span<const Fp8* const> b,
-                      std::size_t n) {
+void add_combinations(std::span<const row_view> c, const matrix& a,
+                      std::span<const const_row_view> b) {
   tile_kernel* const add_to_tile = kernels_in_force::get().add_to_tile;
   if (add_to_tile != nullptr && std::min(c.size(), b.size()) >= least_worth_packing) {
-    tiled_product(c, a, b, n, add_to_tile).add();
+    tiled_product(c, a, b, add_to_tile).add();
     return;
   }
   for (std::size_t i = 0; i < c.size(); ++i) {
     for (std::size_t k = 0; k < b.size(); ++k) {
       heed_interrupt();
-      axpy(c[i], b[k], a[static_cast<int>(i)][k], n);
+      axpy(c[i], b[k], a[static_cast<int>(i)][k]);
     }
   }
 }

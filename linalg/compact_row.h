@@ -3,10 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
-#include "arith/Fp8.h"
+#include "linalg/row.h"
 
 namespace zep::linalg {
 
@@ -18,10 +17,10 @@ class compact_row {
   compact_row() = default;
 
   // The row with these elements, none of them zero, at these ascending places.
-  compact_row(std::vector<std::uint32_t> places, std::vector<Fp8> values);
+  compact_row(std::vector<std::uint32_t> places, row values);
 
   // What a row in full length holds.
-  explicit compact_row(std::span<const Fp8> row);
+  explicit compact_row(const_row_view all);
 
   bool is_zero() const { return values_.empty(); }
 
@@ -29,7 +28,7 @@ class compact_row {
   std::size_t pivot() const { return places_.empty() ? first_ : places_.front(); }
 
   // Sets d to d - c * row; d is a row in full length.
-  void subtract_from(Fp8* d, Fp8 c) const;
+  void subtract_from(row_view d, Fp8 c) const;
 
   // Calls use(place, element) for the non-zero elements, places ascending.
   template <class Use>
@@ -43,7 +42,7 @@ class compact_row {
   // Empty when the row is kept in one piece that starts at first_.
   std::vector<std::uint32_t> places_;
   std::size_t first_ = 0;
-  std::vector<Fp8> values_;
+  row values_;
 };
 
 // Brings rows of the given width to triangular form, one by one: from each, multiples of rows

@@ -107,10 +107,10 @@ class subset_walk {
     matrix& columns = upper_.columns;
     const int last = --upper_.active;
     if (pivot != last) {
-      std::swap_ranges(columns[pivot], columns[pivot] + columns.cols(), columns[last]);
+      std::swap_ranges(columns[pivot].begin(), columns[pivot].end(), columns[last].begin());
     }
     for (int j = 0; j < last; ++j) {
-      axpy(columns[j], columns[last], -(columns[j][c] / columns[last][c]), c);
+      axpy(columns[j].first(c), columns[last].first(c), -(columns[j][c] / columns[last][c]));
     }
   }
 
@@ -126,13 +126,14 @@ class subset_walk {
   void reduce_into_place_below(int i, int c, int pivot) {
     const reduced_rows& here = at_place(i);
     matrix& next = places_[i - 1].columns;
-    const Fp8* const pivot_column = here.columns[pivot];
+    const const_row_view pivot_column = here.columns[pivot];
     int target = 0;
     for (int j = 0; j < here.active; ++j) {
       if (j == pivot) continue;
-      const Fp8* const column = here.columns[j];
-      std::copy(column, column + c, next[target]);
-      axpy(next[target], pivot_column, -(column[c] / pivot_column[c]), c);
+      const const_row_view column = here.columns[j];
+      const row_view below = next[target].first(c);
+      std::copy_n(column.begin(), c, below.begin());
+      axpy(below, pivot_column.first(c), -(column[c] / pivot_column[c]));
       ++target;
     }
   }
@@ -140,7 +141,7 @@ class subset_walk {
   // Chooses for place 0 the first row below c that is zero.
   bool choose_first(int c) {
     const reduced_rows& here = at_place(0);
-    const Fp8* column = here.columns[0];
+    const Fp8* column = here.columns[0].data();
     if (here.active > 1) {
       std::fill(nonzero_.begin(), nonzero_.end(), Fp8(0));
       for (int j = 0; j < here.active; ++j) mark_nonzero(here.columns[j], c);
@@ -152,7 +153,7 @@ class subset_walk {
     return true;
   }
 
-  void mark_nonzero(const Fp8* column, int c) {
+  void mark_nonzero(const_row_view column, int c) {
     for (int r = 0; r < c; ++r) {
       nonzero_[r] = Fp8(nonzero_[r].value() | column[r].value());
     }
@@ -167,7 +168,7 @@ class subset_walk {
   std::vector<reduced_rows> places_;
   std::vector<int> chosen_;
   // Scratch: not zero where some column is not.
-  std::vector<Fp8> nonzero_;
+  row nonzero_;
 };
 
 }  // namespace

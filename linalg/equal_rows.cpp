@@ -26,7 +26,7 @@ void equal_rows::row_changed(const matrix& m, int i, const std::string& before) 
 
 std::string equal_rows::contents(const matrix& m, int i) {
   std::string key;
-  for (const Fp8 x : m.row(i)) key += static_cast<char>(x.value());
+  for (const Fp8 x : m[i]) key += static_cast<char>(x.value());
   return key;
 }
 

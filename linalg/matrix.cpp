@@ -1,7 +1,6 @@
 #include "linalg/matrix.h"
 
 #include <algorithm>
-#include <istream>
 #include <numeric>
 #include <ostream>
 #include <string>
@@ -40,7 +39,8 @@ class gauss_jordan {
  private:
   int& column(int k) { return c_[k]; }
   int& row_index(int k) { return r_[k]; }
-  Fp8* row(int k) { return a_[row_index(k)]; }
+  row_view row(int k) { return a_[row_index(k)]; }
+  row_view stretch(int k) { return row(k).subspan(begin_, length_); }
 
   // Brings a non-zero entry to position (k, k): a row from below, or else, with another column.
   bool find_pivot(int k) {
@@ -63,20 +63,20 @@ class gauss_jordan {
   // entry is set by hand.
   void work_on_columns_from(int k) {
     const auto [lowest, highest] = std::minmax_element(c_.begin() + k, c_.end());
-    begin_ = lowest == c_.end() ? 0 : *lowest;
+    begin_ = lowest == c_.end() ? 0 : static_cast<std::size_t>(*lowest);
     length_ = lowest == c_.end() ? 0 : static_cast<std::size_t>(*highest - *lowest) + 1;
   }
 
   void normalise(int k) {
     Fp8& pivot = row(k)[column(k)];
-    scale(row(k) + begin_, Fp8(1) / pivot, length_);
+    scale(stretch(k), Fp8(1) / pivot);
     pivot = 1;
   }
 
   // Clears the entry of row i in the pivot column k.
   void subtract(int i, int k) {
     Fp8& entry = row(i)[column(k)];
-    axpy(row(i) + begin_, row(k) + begin_, -entry, length_);
+    axpy(stretch(i), stretch(k), -entry);
     entry = 0;
   }
 
@@ -84,7 +84,7 @@ class gauss_jordan {
   std::span<int> c_;
   std::span<int> r_;
   int deferred_ = 0;
-  int begin_ = 0;
+  std::size_t begin_ = 0;
   std::size_t length_ = 0;
 };
 
@@ -117,37 +117,8 @@ std::string empty_row(const std::vector<int>& widths) {
 
 }  // namespace
 
-matrix::matrix(int c, int r) : cols_(std::max(c, 0)), rows_(std::max(r, 0)), a_(offset(rows_)) {}
-
-void matrix::init() { std::fill(a_.begin(), a_.end(), Fp8(0)); }
-
-Fp8 matrix::minor(std::span<const int> col, std::span<const int> rr) const {
-  const int n = static_cast<int>(col.size());
-  matrix w(n, n);
-  for (int i = 0; i < n; ++i) {
-    const Fp8* row = (*this)[rr[i]];
-    for (int j = 0; j < n; ++j) w[i][j] = row[col[j]];
-  }
-  std::vector<int> order = identity_order(n);
-  const auto row = [&](int k) { return w[order[k]]; };
-  Fp8 determinant(1);
-  for (int k = 0; k < n; ++k) {
-    int p = k;
-    while (p < n && row(p)[k] == 0) ++p;
-    if (p == n) return Fp8(0);
-    if (p != k) {
-      std::swap(order[p], order[k]);
-      determinant = -determinant;
-    }
-    const Fp8 pivot = row(k)[k];
-    determinant *= pivot;
-    for (int i = k + 1; i < n; ++i) {
-      axpy(row(i) + k + 1, row(k) + k + 1, -(row(i)[k] / pivot),
-           static_cast<std::size_t>(n - k - 1));
-    }
-  }
-  return determinant;
-}
+matrix::matrix(int c, int r)
+    : cols_(std::max(c, 0)), rows_(std::max(r, 0)), a_(static_cast<std::size_t>(cols_) * rows_) {}
 
 int matrix::solve(std::span<int> c, std::span<int> r) {
   return solve(c, r, std::min(cols_, rows_));
@@ -181,13 +152,6 @@ std::ostream& operator<<(std::ostream& out, const matrix& m) {
     print_row(out, m, i, widths);
   }
   return out;
-}
-
-std::istream& operator>>(std::istream& in, matrix& m) {
-  for (int i = 0; i < m.rows(); ++i) {
-    for (int j = 0; j < m.cols(); ++j) in >> m[i][j];
-  }
-  return in;
 }
 
 }  // namespace zep::linalg

@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "arith/Fp8.h"
 #include "base/paranoid.h"
+#include "linalg/row.h"
 
 namespace zep::linalg {
 
@@ -24,19 +24,13 @@ class matrix {
   int cols() const { return cols_; }
   int rows() const { return rows_; }
 
-  // Row i, `cols` contiguous elements. Valid as long as the matrix lives.
-  Fp8* operator[](int i) { return a_.data() + offset(i); }
-  const Fp8* operator[](int i) const { return a_.data() + offset(i); }
-  std::span<const Fp8> row(int i) const { return {(*this)[i], static_cast<std::size_t>(cols_)}; }
+  // Row i, 0 <= i < rows. Valid as long as the matrix lives.
+  row_view operator[](int i) { return {a_.data() + offset(i), static_cast<std::size_t>(cols_)}; }
+  const_row_view operator[](int i) const {
+    return {a_.data() + offset(i), static_cast<std::size_t>(cols_)};
+  }
 
   bool operator==(const matrix&) const = default;
-
-  // Sets every entry to 0.
-  void init();
-
-  // Determinant of the n x n matrix with entries (rr[i], col[j]); n is the length of both lists.
-  // That of the empty selection is 1.
-  Fp8 minor(std::span<const int> col, std::span<const int> rr) const;
 
   // Brings the homogeneous system (rows are equations, columns unknowns) into reduced row echelon
   // form in place, by Gauss-Jordan elimination that moves a column without a pivot to the end of
@@ -56,14 +50,13 @@ class matrix {
 
  private:
   std::size_t offset(int i) const {
-    // The row behind the last one may be pointed at.
-    ensure("a row is one of the matrix", [&] { return i >= 0 && i <= rows_; });
+    ensure("a row is one of the matrix", [&] { return i >= 0 && i < rows_; });
     return static_cast<std::size_t>(i) * static_cast<std::size_t>(cols_);
   }
 
   int cols_;
   int rows_;
-  std::vector<Fp8> a_;
+  row a_;
 };
 
 // The identity permutation 0 .. n-1.
@@ -75,8 +68,5 @@ int rank(matrix m);
 // Prints the matrix, every column as wide as its widest entry, entries centred, with an empty
 // bracket line between two rows.
 std::ostream& operator<<(std::ostream& out, const matrix& m);
-
-// Reads all entries, row by row.
-std::istream& operator>>(std::istream& in, matrix& m);
 
 }  // namespace zep::linalg

@@ -16,7 +16,7 @@ class row_space {
   explicit row_space(int cols) : cols_(cols) {}
 
   // Takes one row more; true if it is independent of those before.
-  bool add(std::vector<Fp8> row);
+  bool add(row added);
 
   int rank() const { return static_cast<int>(rows_.size()); }
 
@@ -28,7 +28,7 @@ class row_space {
 
  private:
   int cols_;
-  std::vector<std::vector<Fp8>> rows_;
+  std::vector<row> rows_;
   std::vector<std::size_t> pivots_;
 };
 

@@ -96,6 +96,12 @@ for file in /dev/zero /dev/null .; do
   [[ "$out" == *"$farewell"* ]] || complain "$file as a point file ends the session"
 done
 
+# A session that can be opened, but not read.
+if [ -r /proc/self/mem ]; then
+  out=$(timeout 60 "$zep" /proc/self/mem 2>&1) || complain "an unreadable session: status"
+  [[ "$out" == *"$farewell"* ]] || complain 'an unreadable session does not end in order'
+fi
+
 # Standard output: a reader that goes away is no fault, a full disk is one.
 printf 'random A 300\nsep A\nsep A\nsep A\n' >commands
 status=0

@@ -31,13 +31,16 @@ try 'a long word' 30000 < <(printf 'scheme A '; pad 60000000 a; printf '\n')
 # the whole result or nothing; that of putlinres may hold the part of putlinid.
 cd "$work"
 exhausted=0
+least=1000
+enough() { echo quit | (ulimit -v "$1" && exec "$zep") >/dev/null; }
+while [ "$least" -lt 24000 ] && ! enough "$least"; do least=$((least + 500)); done 2>/dev/null
 
 # squeeze SET COMMAND: carries the command out on the set and writes the result if it has a file.
 squeeze() {
   local limit status err
   rm -f whole part result
   printf 'quiet\n%s\n%s A whole\nputlinid A part\n' "$1" "$2" | "$zep" >/dev/null 2>&1
-  for ((limit = 8000; limit <= 24000; limit += 500)); do
+  for ((limit = least; limit <= least + 16000; limit += 500)); do
     rm -f result
     status=0
     err=$(printf 'quiet\n%s\n%s A result\n' "$1" "$2" |

@@ -1,45 +1,52 @@
 #include "text/record.h"
 
-#include <iostream>
+#include <ostream>
 
 #include "base/output.h"
-#include "points/ideal/gorenstein.h"
-#include "points/ideal/minimal_generators.h"
-#include "points/ideal/socle.h"
-#include "points/module/canonical_module.h"
-#include "points/strand/linid.h"
-#include "points/strand/linom.h"
-#include "points/walk/invariants.h"
+#include "text/canonical_module.h"
+#include "text/generators.h"
+#include "text/invariants.h"
+#include "text/points.h"
+#include "text/strands.h"
 
-namespace zep::points {
+namespace zep::text {
 
-std::ostream& operator<<(std::ostream& out, scheme& X) {
-  out << "scheme consists of " << X.s << " points:\n";
-  disp_scheme(out, X);
-  out << "\n" << Line;
-  if (X.has_bu_mo) {
-    order_ideal(std::cout, X);
-    hilb_fct(out, X);
-    delta_fct(out, X);
-    sigma_X(out, X);
-    delta_X(out, X);
-    alpha_X(out, X);
+namespace {
+
+void display_strands(std::ostream& out, const results& known) {
+  if (known.strands.linid && known.strands.linom) {
+    disp_linres(out, known);
+  } else if (known.strands.linom) {
+    disp_linom(out, known);
+  } else if (known.strands.linid) {
+    disp_linid(out, known);
   }
-  if (X.sep == 1) {
-    is_CB(out, X);
-    is_ar_Go(out, X);
-  }
-  if (X.min_Ix) deg_min(out, X);
-  if (X.socle) disp_socle(out, X);
-  if (no_of_pr(X) != 0) disp_omega(out, X);
-  if (X.linid != 0 && X.linom != 0) {
-    disp_linres(out, X);
-  } else if (X.linom != 0) {
-    disp_linom(out, X);
-  } else if (X.linid != 0) {
-    disp_linid(out, X);
-  }
-  return out;
 }
 
-}  // namespace zep::points
+}  // namespace
+
+void display(std::ostream& out, std::ostream& screen, const scheme& X) {
+  const results& known = X.known();
+  out << "scheme consists of " << X.s() << " points:\n";
+  disp_scheme(out, X.P());
+  out << "\n" << Line;
+  if (known.bu_mo) {
+    const hilbert_numbers& H = known.bu_mo->H;
+    order_ideal(screen, *known.bu_mo);
+    hilb_fct(out, H);
+    delta_fct(out, H);
+    sigma_X(out, H);
+    delta_X(out, H);
+    alpha_X(out, H);
+  }
+  if (known.sep) {
+    is_CB(out, known.is_CB);
+    is_ar_Go(out, known.is_ar_Go);
+  }
+  if (known.min_Ix) deg_min(out, *known.min_Ix);
+  if (known.socle) disp_socle(out, *known.socle);
+  if (has_generators(known.omega)) disp_omega(out, *known.omega);
+  display_strands(out, known);
+}
+
+}  // namespace zep::text

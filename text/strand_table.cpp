@@ -6,7 +6,7 @@
 
 #include "arith/Fp.h"
 
-namespace zep::points {
+namespace zep::text {
 
 namespace {
 
@@ -45,4 +45,4 @@ std::vector<int> consecutive(int n, int first, int step) {
   return numbers;
 }
 
-}  // namespace zep::points
+}  // namespace zep::text

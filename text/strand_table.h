@@ -8,7 +8,7 @@
 
 #include "base/floors.h"
 
-namespace zep::points {
+namespace zep::text {
 
 // A table with a column for each step of a resolution. Numbers are followed by blanks up to the
 // width of their column and one more; what is wider than its column is not cut.
@@ -36,4 +36,4 @@ int column_width(int entry);
 // The numbers first, first + step, ..., n of them.
 std::vector<int> consecutive(int n, int first, int step);
 
-}  // namespace zep::points
+}  // namespace zep::text

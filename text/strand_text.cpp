@@ -6,7 +6,7 @@
 #include "base/interrupt.h"
 #include "text/vector_text.h"
 
-namespace zep::points {
+namespace zep::text {
 
 namespace {
 
@@ -42,4 +42,4 @@ void put_matrix(std::ostream& out, int number, std::string_view module,
   put_vectors(out, vectors);
 }
 
-}  // namespace zep::points
+}  // namespace zep::text

@@ -7,7 +7,7 @@
 
 #include "points/strand/form_vectors.h"
 
-namespace zep::points {
+namespace zep::text {
 
 // Prints each vector in brackets.
 void show_vectors(std::ostream& out, const form_vectors& vectors);
@@ -19,4 +19,4 @@ void put_vectors(std::ostream& out, const form_vectors& vectors);
 void put_matrix(std::ostream& out, int number, std::string_view module,
                 const form_vectors& vectors);
 
-}  // namespace zep::points
+}  // namespace zep::text

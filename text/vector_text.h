@@ -5,20 +5,19 @@
 
 #include "arith/polynomial.h"
 #include "base/interrupt.h"
-#include "base/output.h"
 
-namespace zep::points {
+namespace zep::text {
 
 // Prints component(0) .. component(n - 1) in brackets, in screen form, each on a line of its own.
 template <class Component>
 void show_vector(std::ostream& out, int n, Component component) {
   out << "[ ";
-  counter = 2;
+  int column = 2;
   for (int i = 0; i < n; ++i) {
     heed_interrupt();
     if (i > 0) out << ";\n";
-    out << component(i);
-    counter = 0;
+    show(out, component(i), column);
+    column = 0;
   }
   out << " ]\n";
 }
@@ -33,4 +32,4 @@ void put_vector(std::ostream& out, int n, Component component) {
   }
 }
 
-}  // namespace zep::points
+}  // namespace zep::text

@@ -29,8 +29,26 @@ need_packages() {
   }
 }
 
+# need_packages_of ARCHITECTURE NAME...: the same where some are for another processor, NAME:ARCHITECTURE.
+# Makes the architecture known first, if it isn't.
+need_packages_of() {
+  local architecture=$1 as_root=()
+  shift
+  if ! { dpkg --print-architecture && dpkg --print-foreign-architectures; } |
+    grep -x "$architecture" >/dev/null; then
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" dpkg --add-architecture "$architecture" || {
+      printf 'Please call this first, as root: dpkg --add-architecture %s\n' "$architecture" >&2
+      exit 1
+    }
+  fi
+  need_packages "$@"
+}
+
 build_packages=(g++ make cmake libgmp-dev libreadline-dev)
 test_packages=(libgtest-dev libbenchmark-dev dpkg-dev file groff-base lintian)
 lint_packages=(clang-format clang-tidy cppcheck)
 coverage_packages=(gcovr)
 fuzz_packages=(clang libclang-rt-dev llvm)
+portable_packages=(clang libc++-dev libc++abi-dev googletest g++-aarch64-linux-gnu
+  libgmp-dev:arm64 qemu-user)

@@ -3,7 +3,6 @@
 #include <sstream>
 
 #include "arith/polynomial.h"
-#include "base/output.h"
 #include "bench/arith/monomials.h"
 #include "tests/ring_in_force.h"
 
@@ -22,10 +21,7 @@ void bench_addition(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * terms);
 }
 
-void print_on_screen(std::ostream& out, const polynomial& f) {
-  counter = 0;
-  out << f;
-}
+void print_on_screen(std::ostream& out, const polynomial& f) { out << f; }
 
 void print_into_file(std::ostream& out, const polynomial& f) { f.put(out); }
 

@@ -6,6 +6,7 @@
 #include "bench/irregular_numbers.h"
 #include "linalg/combinations.h"
 #include "linalg/kernels/row_kernels.h"
+#include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
@@ -18,9 +19,9 @@ matrix some_matrix(int rows, int cols, irregular_numbers& numbers) {
   return m;
 }
 
-template <class Pointer>
-std::vector<Pointer> rows_of(matrix& m) {
-  std::vector<Pointer> rows;
+template <class View>
+std::vector<View> rows_of(matrix& m) {
+  std::vector<View> rows;
   rows.reserve(m.rows());
   for (int i = 0; i < m.rows(); ++i) rows.push_back(m[i]);
   return rows;
@@ -29,8 +30,7 @@ std::vector<Pointer> rows_of(matrix& m) {
 // The arguments are numbers of rows, of summands, of elements in a row.
 void bench_combinations(benchmark::State& state, const row_kernels* kernels) {
   const kernels_in_force forced(*kernels);
-  Fp8::prime = 251;
-  Fp8::init();
+  const ring_in_force ring(251);
   const int rows = static_cast<int>(state.range(0));
   const int summands = static_cast<int>(state.range(1));
   const int n = static_cast<int>(state.range(2));
@@ -38,10 +38,10 @@ void bench_combinations(benchmark::State& state, const row_kernels* kernels) {
   matrix c = some_matrix(rows, n, numbers);
   matrix b = some_matrix(summands, n, numbers);
   const matrix a = some_matrix(rows, summands, numbers);
-  const std::vector<Fp8*> sums = rows_of<Fp8*>(c);
-  const std::vector<const Fp8*> added = rows_of<const Fp8*>(b);
+  const std::vector<row_view> sums = rows_of<row_view>(c);
+  const std::vector<const_row_view> added = rows_of<const_row_view>(b);
   for ([[maybe_unused]] const auto _ : state) {
-    add_combinations(sums, a, added, n);
+    add_combinations(sums, a, added);
     benchmark::ClobberMemory();
   }
   state.SetItemsProcessed(state.iterations() * rows * summands * n);

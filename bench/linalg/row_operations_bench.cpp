@@ -2,31 +2,26 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "bench/irregular_numbers.h"
 #include "linalg/kernels/row_kernels.h"
 #include "linalg/row_operations.h"
+#include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
 
-std::vector<Fp8> some_row(std::size_t n, std::uint64_t start) {
+row some_row(std::size_t n, std::uint64_t start) {
   irregular_numbers numbers(start);
-  std::vector<Fp8> row(n);
-  for (Fp8& element : row) element = Fp8(numbers.below(Fp8::prime));
-  return row;
-}
-
-void set_prime(int p) {
-  Fp8::prime = p;
-  Fp8::init();
+  row elements(n);
+  for (Fp8& x : elements) x = Fp8(numbers.below(Fp8::prime));
+  return elements;
 }
 
 // Two rows, and a factor that is neither 0 nor 1 nor p - 1 where there is another one.
 struct operands {
-  std::vector<Fp8> d;
-  std::vector<Fp8> s;
+  row d;
+  row s;
   Fp8 c;
 };
 
@@ -34,23 +29,23 @@ void plain_axpy(operands& x) {
   for (std::size_t i = 0; i < x.d.size(); ++i) x.d[i] += x.c * x.s[i];
 }
 
-void run_axpy(operands& x) { axpy(x.d.data(), x.s.data(), x.c, x.d.size()); }
+void run_axpy(operands& x) { axpy(x.d, x.s, x.c); }
 
-void run_addition(operands& x) { axpy(x.d.data(), x.s.data(), Fp8(1), x.d.size()); }
+void run_addition(operands& x) { axpy(x.d, x.s, Fp8(1)); }
 
-void run_subtraction(operands& x) { axpy(x.d.data(), x.s.data(), -Fp8(1), x.d.size()); }
+void run_subtraction(operands& x) { axpy(x.d, x.s, -Fp8(1)); }
 
-void run_scale(operands& x) { scale(x.d.data(), x.c, x.d.size()); }
+void run_scale(operands& x) { scale(x.d, x.c); }
 
-void run_product(operands& x) { pointwise_product(x.d.data(), x.d.data(), x.s.data(), x.d.size()); }
+void run_product(operands& x) { pointwise_product(x.d, x.d, x.s); }
 
-void run_dot(operands& x) { benchmark::DoNotOptimize(dot(x.d.data(), x.s.data(), x.d.size())); }
+void run_dot(operands& x) { benchmark::DoNotOptimize(dot(x.d, x.s)); }
 
 using operation = void (*)(operands&);
 
 void bench(benchmark::State& state, const row_kernels* kernels, operation run) {
   const kernels_in_force forced(*kernels);
-  set_prime(static_cast<int>(state.range(0)));
+  const ring_in_force ring(static_cast<int>(state.range(0)));
   const auto n = static_cast<std::size_t>(state.range(1));
   operands x = {some_row(n, 1), some_row(n, 2), Fp8(Fp8::prime / 2)};
   for ([[maybe_unused]] const auto _ : state) {

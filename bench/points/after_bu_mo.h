@@ -4,22 +4,18 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/points/points.h"
-#include "points/walk/buchberger_moeller.h"
 
 namespace zep::tests {
 
-// Times a computation on irregular points of P^n over F_101 for which bu_mo alone has run; the
+// Times a computation on irregular points of P^n over F_101 whose order ideal is known; the
 // arguments are their number and n. What else the computation needs is part of its time.
-template <void (*compute)(scheme&)>
+template <auto compute>
 void bench_after_bu_mo(benchmark::State& state) {
-  const silence quiet;
-  set_ring(101, static_cast<int>(state.range(1)));
-  scheme points = irregular_points(static_cast<int>(state.range(0)));
-  bu_mo(points);
+  const ring_in_force in_force(ring_of(101, static_cast<int>(state.range(1))));
+  const order_ideal X = bu_mo(irregular_points(static_cast<int>(state.range(0))), nobody());
   for ([[maybe_unused]] const auto _ : state) {
-    scheme X = points;
-    compute(X);
-    benchmark::DoNotOptimize(X);
+    auto result = compute(X);
+    benchmark::DoNotOptimize(result);
   }
 }
 

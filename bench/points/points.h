@@ -1,60 +1,62 @@
 // Point sets for benchmarks.
 #pragma once
 
-#include <iostream>
-#include <sstream>
+#include <string_view>
 
-#include "arith/Fp8.h"
-#include "arith/ring.h"
+#include "arith/ring_in_force.h"
 #include "base/reporter.h"
-#include "points/record/scheme.h"
+#include "linalg/matrix.h"
+#include "points/ring/order_ideal.h"
+#include "points/walk/buchberger_moeller.h"
 
 namespace zep::tests {
 
-// Puts aside what the computations print while it lives.
-class silence {
+// Listens to nothing, as when the terminal is quiet.
+class inattentive : public reporter {
  public:
-  silence() : before_(std::cout.rdbuf(dropped_.rdbuf())) { verbose = 0; }
-  ~silence() { std::cout.rdbuf(before_); }
-  silence(const silence&) = delete;
-  silence& operator=(const silence&) = delete;
-
- private:
-  std::ostringstream dropped_;
-  std::streambuf* before_;
+  bool is_attentive() const override { return false; }
+  void say(std::string_view /*words*/) override {}
+  void count(int /*remaining*/) override {}
+  void end_of_count() override {}
+  void end_of_computation() override {}
+  void mark() override {}
+  void advance(int /*remaining*/) override {}
 };
 
-inline void set_ring(int p, int n) {
-  Fp8::prime = p;
-  Fp8::init();
-  set_dimension(n);
+inline reporter& nobody() {
+  static inattentive listener;
+  return listener;
 }
 
-// s points of the space in force with irregular coordinates. A repetition would not matter here.
-inline scheme irregular_points(int s) {
-  scheme X(s);
+// F_p and P^n with the term order of the beginning.
+inline ring ring_of(int p, int n) { return {.p = p, .n = n}; }
+
+// s points of the space in force with irregular coordinates, as rows. A repetition would not matter
+// here.
+inline matrix irregular_points(int s) {
+  matrix P(dim, s);
   unsigned x = 1;
   for (int i = 0; i < s; ++i) {
     for (int j = 0; j < dim; ++j) {
       x = x * 1664525U + 1013904223U;
-      X.P[i][j] = static_cast<int>(x >> 9U);
+      P[i][j] = static_cast<int>(x >> 9U);
     }
   }
-  return X;
+  return P;
 }
 
 // s points (1 : t : t^2 : ...) of the rational normal curve of the space in force, s < p. Any n + 1
 // of them are independent, and their separators are as uniform as can be.
-inline scheme points_on_a_normal_curve(int s) {
-  scheme X(s);
+inline matrix points_on_a_normal_curve(int s) {
+  matrix P(dim, s);
   for (int i = 0; i < s; ++i) {
     int power = 1;
     for (int j = 0; j < dim; ++j) {
       power = power * (i + 1) % Fp8::prime;
-      X.P[i][j] = power;
+      P[i][j] = power;
     }
   }
-  return X;
+  return P;
 }
 
 }  // namespace zep::tests

@@ -1,28 +1,23 @@
 #include "front/commands/command.h"
 
+#include <algorithm>
 #include <array>
 #include <iostream>
 #include <string_view>
 
 #include "base/output.h"
-#include "base/reporter.h"
 #include "front/commands/point_entry.h"
 #include "front/commands/random_points.h"
 #include "front/commands/result_files.h"
 #include "front/commands/settings.h"
 #include "front/commands/strand_files.h"
-#include "points/ideal/gorenstein.h"
-#include "points/ideal/minimal_generators.h"
-#include "points/ideal/socle.h"
-#include "points/module/canonical_module.h"
-#include "points/strand/linid.h"
-#include "points/strand/linom.h"
-#include "points/walk/beta_matrix.h"
-#include "points/walk/buchberger_moeller.h"
-#include "points/walk/general_position.h"
-#include "points/walk/invariants.h"
-#include "points/walk/separators.h"
-#include "points/walk/uniformity.h"
+#include "text/canonical_module.h"
+#include "text/generators.h"
+#include "text/invariants.h"
+#include "text/points.h"
+#include "text/strand_text.h"
+#include "text/strands.h"
+#include "text/uniformity.h"
 
 namespace zep::front {
 
@@ -34,71 +29,115 @@ constexpr auto point_set = command_kind::scheme_identifier;
 
 // Actions made from the functions that do the work.
 
-template <void (*display)(std::ostream&, scheme&)>
-void show(session& z, int identifier) {
-  display(std::cout, z.var.object(identifier));
+// Makes a result and prints it.
+template <auto make, auto print>
+void show(const invocation& todo) {
+  const auto& result = (todo.X().*make)();
+  print(std::cout, result);
+}
+
+template <void (*print)(std::ostream&, const hilbert_numbers&)>
+void show_number(const invocation& todo) {
+  print(std::cout, todo.X().bu_mo().H);
 }
 
 template <void (*change)(session&)>
-void with_session(session& z, int /*identifier*/) {
-  change(z);
+void with_session(const invocation& todo) {
+  change(todo.z);
 }
 
 template <void (*print)()>
-void alone(session& /*z*/, int /*identifier*/) {
+void alone(const invocation& /*todo*/) {
   print();
 }
 
-template <int value>
-void set_verbose(session& /*z*/, int /*identifier*/) {
-  verbose = value;
+template <bool verbose>
+void set_verbose(const invocation& todo) {
+  todo.z.shared.report.be_verbose(verbose);
 }
 
 template <bool full>
-void list_identifiers(session& z, int /*identifier*/) {
-  z.var.list_all(full);
+void list_identifiers(const invocation& todo) {
+  todo.z.shared.var.list_all(full);
 }
 
-void run_bumo(session& z, int identifier) { need_bu_mo(z.var.object(identifier)); }
+void run_bumo(const invocation& todo) { todo.X().bu_mo(); }
 
-void show_linid(session& z, int identifier) {
-  scheme& X = z.var.object(identifier);
-  linid(X);
-  disp_linid(std::cout, X);
+// The separators count as asked for from then on.
+void show_separators(const invocation& todo) {
+  todo.X().sep();
+  text::separators(std::cout, todo.X().bu_mo());
 }
 
-void show_linom(session& z, int identifier) {
-  scheme& X = z.var.object(identifier);
-  linom(X);
-  disp_linom(std::cout, X);
+void show_general_position(const invocation& todo) { text::lingenpos(std::cout, todo.X().P()); }
+
+void show_linid(const invocation& todo) {
+  todo.X().linid();
+  text::disp_linid(std::cout, todo.X().known());
 }
 
-void show_linres(session& z, int identifier) {
-  scheme& X = z.var.object(identifier);
-  linid(X);
-  linom(X);
-  disp_linres(std::cout, X);
+void show_linom(const invocation& todo) {
+  todo.X().linom();
+  text::disp_linom(std::cout, todo.X().known());
+}
+
+void show_linres(const invocation& todo) {
+  todo.X().linid();
+  todo.X().linom();
+  text::disp_linres(std::cout, todo.X().known());
+}
+
+void show_linsyz(const invocation& todo) {
+  const auto show_syzygies = [](int level, const form_vectors& vectors) {
+    if (level > 0) text::show_vectors(std::cout, vectors);
+  };
+  todo.X().linid(show_syzygies, scheme::numbers::stay);
+}
+
+void show_linomsyz(const invocation& todo) {
+  const auto show_relations = [](int /*level*/, const form_vectors& vectors) {
+    text::show_vectors(std::cout, vectors);
+    return false;
+  };
+  todo.X().linom(show_relations, scheme::numbers::stay);
+}
+
+void test_delta_uniformity(const invocation& todo) {
+  scheme& X = todo.X();
+  X.sep();
+  const int delta = X.bu_mo().H.delta;
+  if (delta == 1) {
+    text::is_delta_uf_for_delta_one(std::cout, X.known().is_CB);
+  } else {
+    const text::dependence found = X.dependent_separators(delta);
+    text::is_delta_uf(std::cout, found, todo.z.shared.report.is_verbose());
+  }
 }
 
 // What is no number counts as one that the test refuses.
-void test_n_uniformity(session& z, int identifier) {
-  const int n = z.typed.integer_or(0);
-  is_n_uf(std::cout, z.var.object(identifier), n);
+void test_n_uniformity(const invocation& todo) {
+  const int n = todo.z.typed.integer_or(0);
+  if (n <= 0) return text::refuse_n_not_positive(std::cout);
+  const int delta = todo.X().bu_mo().H.delta;
+  if (n == delta) return test_delta_uniformity(todo);
+  if (n > delta) return text::refuse_n_above_delta(std::cout);
+  text::is_n_uf(std::cout, todo.X().dependent_separators(n), n);
 }
 
-void delete_identifier(session& z, int identifier) { z.var.del(identifier, false); }
+void delete_identifier(const invocation& todo) { identifier_table::del(*todo.named, false); }
 
-void delete_all_identifiers(session& z, int /*identifier*/) { z.var.del_all(false); }
+void delete_all_identifiers(const invocation& todo) { todo.z.shared.var.del_all(false); }
 
-void display_identifier(session& z, int identifier) { z.var.display(identifier, true); }
+void display_identifier(const invocation& todo) { identifier_table::display(*todo.named, true); }
 
-void leave(session& z, int /*identifier*/) { z.quit = true; }
+void leave(const invocation& todo) { todo.z.quit = true; }
 
 constexpr auto table = std::to_array<command_record>({
-    {"alpha", point_set, "A", "the least degree of a form that vanishes on A", show<alpha_X>},
+    {"alpha", point_set, "A", "the least degree of a form that vanishes on A",
+     show_number<text::alpha_X>},
     {"betamat", point_set, "A",
      "the beta matrix of A: leading forms of separators in a basis of some of them",
-     show<disp_beta_matrix>},
+     show<&scheme::beta_matrix, text::disp_beta_matrix>},
     {"bumo", point_set, "A", "the Buchberger-Moeller algorithm; prints no result", run_bumo},
     {"char", none, "N", "makes F_N the field; deletes all point sets",
      with_session<characteristic>},
@@ -113,9 +152,9 @@ constexpr auto table = std::to_array<command_record>({
     {"del", any, "A", "deletes A", delete_identifier},
     {"del_all", none, "", "deletes all point sets", delete_all_identifiers},
     {"delta", point_set, "A", "the last value of the difference function of A that is not 0",
-     show<delta_X>},
+     show_number<text::delta_X>},
     {"deltafn", point_set, "A", "the difference function of the Hilbert function of A",
-     show<delta_fct>},
+     show_number<text::delta_fct>},
     {"dim", none, "N", "makes P^N the space; deletes all point sets", with_session<set_dim>},
     {"display", any, "A", "A and, in short, the results that exist for it; A alone does the same",
      display_identifier},
@@ -123,40 +162,46 @@ constexpr auto table = std::to_array<command_record>({
      list_identifiers<true>},
     {"exit", none, "", "leaves, as quit does", leave},
     {"gbasis", point_set, "A", "the reduced Groebner basis of the vanishing ideal of A",
-     show<groebner>},
+     show<&scheme::bu_mo, text::groebner>},
     {"gencycl", none, "", "not in this program", alone<cyclotom>},
     {"get", none, "A N",
      "reads N points, each with all its coordinates, the homogenising one first and not 0",
      with_session<get_scheme>},
     {"help", none, "", "the names of all commands", alone<help>},
-    {"hilbertfn", point_set, "A", "the Hilbert function of A", show<hilb_fct>},
+    {"hilbertfn", point_set, "A", "the Hilbert function of A", show_number<text::hilb_fct>},
     {"identifiers", none, "NAMES", "renames the variables, one character each",
      with_session<identifiers>},
-    {"is_cb", point_set, "A", "whether A has the Cayley-Bacharach property", show<is_CB>},
+    {"is_cb", point_set, "A", "whether A has the Cayley-Bacharach property",
+     show<&scheme::is_CB, text::is_CB>},
     {"is_duf", point_set, "A",
-     "whether any delta of the separators of A are independent in top degree", show<is_delta_uf>},
-    {"is_gor", point_set, "A", "whether A is arithmetically Gorenstein", show<is_ar_Go>},
+     "whether any delta of the separators of A are independent in top degree",
+     test_delta_uniformity},
+    {"is_gor", point_set, "A", "whether A is arithmetically Gorenstein",
+     show<&scheme::is_ar_Go, text::is_ar_Go>},
     {"is_uf", point_set, "A N",
      "whether any N of the separators of A are independent in top degree", test_n_uniformity},
     {"lingenpos", point_set, "A", "whether some min(s, n + 1) of the s points of A are independent",
-     show<lingenpos>},
+     show_general_position},
     {"linid", point_set, "A",
      "the linear strand of the resolution of the vanishing ideal, in numbers", show_linid},
     {"linom", point_set, "A",
      "the linear strand of the resolution of the canonical module, in numbers", show_linom},
     {"linomsyz", point_set, "A",
-     "the linear relations among the generators of least degree of that module", show<linomsyz>},
+     "the linear relations among the generators of least degree of that module", show_linomsyz},
     {"linres", point_set, "A", "both linear strands in one table", show_linres},
     {"linsyz", point_set, "A", "the linear syzygies of the vanishing ideal, level by level",
-     show<linsyz>},
+     show_linsyz},
     {"list", none, "", "the names of all point sets", list_identifiers<false>},
     {"min", point_set, "A", "minimal generators of the homogeneous vanishing ideal",
-     show<disp_min>},
-    {"mindegs", point_set, "A", "the degrees of the minimal generators", show<deg_min>},
+     show<&scheme::min_Ix, text::disp_min>},
+    {"mindegs", point_set, "A", "the degrees of the minimal generators",
+     show<&scheme::min_Ix, text::deg_min>},
     {"omega", point_set, "A", "the minimal presentation of the canonical module: ranks and degrees",
-     show<disp_omega>},
-    {"omegamat", point_set, "A", "the same: its matrix and its generators", show<disp_omegamat>},
-    {"orderideal", point_set, "A", "the monomials outside the leading ideal", show<order_ideal>},
+     show<&scheme::omega, text::disp_omega>},
+    {"omegamat", point_set, "A", "the same: its matrix and its generators",
+     show<&scheme::omega, text::disp_omegamat>},
+    {"orderideal", point_set, "A", "the monomials outside the leading ideal",
+     show<&scheme::bu_mo, text::order_ideal>},
     {"putbeta", point_set, "A FILE", "writes the beta matrix", putbeta},
     {"putgbasis", point_set, "A FILE", "writes the Groebner basis", putGroebner},
     {"putlinid", point_set, "A FILE", "writes the linear strand of the vanishing ideal", putlinid},
@@ -168,7 +213,7 @@ constexpr auto table = std::to_array<command_record>({
     {"putomega", point_set, "A FILE", "writes the presentation of the canonical module", putA_d},
     {"putscheme", point_set, "A FILE", "writes the points, as scheme reads them", putscheme},
     {"putsep", point_set, "A FILE", "writes the separators", putsep},
-    {"quiet", none, "", "keeps reports of progress back", set_verbose<0>},
+    {"quiet", none, "", "keeps reports of progress back", set_verbose<false>},
     {"quit", none, "", "leaves", leave},
     {"random", none, "A N", "N distinct random points", with_session<random1>},
     {"random2", none, "A N", "N distinct random points, the unit points first",
@@ -179,14 +224,16 @@ constexpr auto table = std::to_array<command_record>({
     {"scheme", none, "A FILE", "reads points from a file", with_session<create>},
     {"sep", point_set, "A",
      "the separators of A: for each point a polynomial, 1 there and 0 at the others",
-     show<separators>},
+     show_separators},
     {"sigma", point_set, "A",
      "one less than the first degree in which the Hilbert function is the number of points",
-     show<sigma_X>},
-    {"socle", point_set, "A", "the socle of the Artinian reduction", show<disp_socle>},
-    {"type", point_set, "A", "the number of generators of the socle", show<typ>},
+     show_number<text::sigma_X>},
+    {"socle", point_set, "A", "the socle of the Artinian reduction",
+     show<&scheme::socle, text::disp_socle>},
+    {"type", point_set, "A", "the number of generators of the socle",
+     show<&scheme::socle, text::typ>},
     {"verbose", none, "", "reports the progress of long computations on standard error",
-     set_verbose<1>},
+     set_verbose<true>},
     {"write", point_set, "A FILE", "writes what display shows, but for the order ideal", write},
     {"writelinid", point_set, "A FILE", "writes the table of linid as it is", writelinid},
     {"writelinom", point_set, "A FILE", "writes the table of linom as it is", writelinom},
@@ -197,21 +244,22 @@ constexpr auto table = std::to_array<command_record>({
 
 constinit const std::span<const command_record> command = table;
 
-int find_command(const std::string& name) {
-  for (int c = 0; c < no_of_commands(); ++c) {
-    if (name == command[c].name) return c;
-  }
-  return -1;
+const command_record* find_command(const std::string& name) {
+  const auto found = std::find_if(command.begin(), command.end(),
+                                  [&](const command_record& c) { return name == c.name; });
+  return found == command.end() ? nullptr : &*found;
 }
 
 void help() {
   constexpr int column_width = 13;
-  const int columns = LL / column_width;
+  constexpr int columns = LL / column_width;
   std::cout << "list of commands in alphabetical order :";
-  for (int c = 0; c < no_of_commands(); ++c) {
-    const std::string_view name = command[c].name;
-    if (c % columns == 0) std::cout << "\n";
+  int column = 0;
+  for (const command_record& c : command) {
+    const std::string_view name = c.name;
+    if (column % columns == 0) std::cout << "\n";
     std::cout << name << std::string(column_width - name.size(), ' ');
+    ++column;
   }
   std::cout << "\n" << Line;
 }

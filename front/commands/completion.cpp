@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "front/commands/command.h"
-#include "front/terminal/prompt.h"
 
 namespace zep::front {
 
@@ -26,21 +25,19 @@ bool takes_file(const command_record& c) {
 
 }  // namespace
 
-completions complete(const identifier_table& identifiers, const std::string& prompt,
-                     const std::string& before) {
-  if (prompt == filename_prompt) return {{}, before.empty()};
-  if (prompt != command_prompt) return {};
+completions complete(const identifier_table& identifiers, awaited what, const std::string& before) {
+  if (what == awaited::file_name) return {{}, before.empty()};
+  if (what != awaited::command) return {};
   const std::vector<std::string> typed = words_of(before);
   if (typed.empty()) {
     std::vector<std::string> words = identifiers.names();
     append_commands(words);
     return {std::move(words)};
   }
-  const int c = find_command(typed.front());
-  if (c < 0) return {};
-  const command_record& todo = command[c];
-  if (typed.size() == 1 && todo.kind != command_kind::nothing) return {identifiers.names()};
-  return {{}, typed.size() == 2 && takes_file(todo)};
+  const command_record* const todo = find_command(typed.front());
+  if (todo == nullptr) return {};
+  if (typed.size() == 1 && todo->kind != command_kind::nothing) return {identifiers.names()};
+  return {{}, typed.size() == 2 && takes_file(*todo)};
 }
 
 }  // namespace zep::front

@@ -1,14 +1,16 @@
 // Carrying a command out.
 #pragma once
 
-#include "front/session/session.h"
+#include <optional>
+#include <string>
+
+#include "front/commands/command.h"
 
 namespace zep::front {
 
-// Checks the identifier that command c asks for, reports what is wrong with it, or else carries the
-// command out. A command that is interrupted leaves the scheme as it was, and lets `interrupted`
-// pass. A number outside the table does nothing. `identifier` is an index of the table of
-// identifiers, unknown_identifier or no_identifier.
-void execute(session& z, int c, int identifier);
+// Looks for the identifier that the command asks for, complains of what is wrong with it, or else
+// carries the command out. `name` is the word typed behind the command, none if there is none. A
+// command that is interrupted leaves the scheme as it was, and lets `interrupted` pass.
+void execute(session& z, const command_record& todo, const std::optional<std::string>& name);
 
 }  // namespace zep::front

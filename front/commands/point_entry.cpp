@@ -9,9 +9,8 @@
 #include "arith/ring.h"
 #include "base/interrupt.h"
 #include "base/output.h"
+#include "front/commands/into_file.h"
 #include "front/files/files.h"
-#include "front/session/error.h"
-#include "front/terminal/prompt.h"
 #include "linalg/equal_rows.h"
 
 namespace zep::front {
@@ -42,10 +41,12 @@ class point_buffer {
     std::cout << ">\n";
   }
 
-  std::unique_ptr<scheme> make_scheme() const {
-    auto X = std::make_unique<scheme>(size_);
-    if (size_ > 0) std::copy(coordinates_.begin(), coordinates_.end(), X->P[0]);
-    return X;
+  // The points as rows.
+  matrix rows() const {
+    matrix P(dim, size_);
+    auto from = coordinates_.begin();
+    for (int i = 0; i < size_; ++i, from += dim) std::copy_n(from, dim, P[i].begin());
+    return P;
   }
 
  private:
@@ -60,18 +61,18 @@ void warn_of_equal_points(const matrix& P) {
   }
 }
 
-void finish(reservation& identifier, const point_buffer& points) {
-  auto X = points.make_scheme();
-  warn_of_equal_points(X->P);
-  identifier.fill(std::move(X));
+void finish(workspace& shared, reservation& identifier, const point_buffer& points) {
+  matrix P = points.rows();
+  warn_of_equal_points(P);
+  identifier.fill(std::make_unique<scheme>(std::move(P), shared.report));
 }
 
-// Fills the record from the file, or reports why that can't be done.
-void read_scheme(std::istream& file, reservation& identifier) {
+// Fills the identifier from the file, or complains why that can't be done.
+void read_scheme(workspace& shared, std::istream& file, reservation& identifier) {
   input in(file);
   try {
     if (in.integer() != proj) {
-      error(error_code::different_dimensions);
+      shared.wrong.error(error_code::different_dimensions);
       return;
     }
     const int n = in.integer();
@@ -81,20 +82,20 @@ void read_scheme(std::istream& file, reservation& identifier) {
       heed_interrupt();
       points.read_point(in, "first coordinate as '1'\n", [] {});
     }
-    finish(identifier, points);
+    finish(shared, identifier, points);
   } catch (const malformed_number&) {
-    complain("malformed point file\n");
+    shared.wrong.complain("malformed point file\n");
   } catch (const end_of_input&) {
-    complain("malformed point file\n");
+    shared.wrong.complain("malformed point file\n");
   }
 }
 
 }  // namespace
 
 void get_scheme(session& z) {
-  auto identifier = reservation::read(z.typed, z.var);
+  auto identifier = reservation::read(z.typed, z.shared.var, z.shared.wrong);
   if (!identifier) return;
-  prompt("enter number of points : ");
+  z.shared.prompt.ask("enter number of points : ");
   try {
     const int n = z.typed.integer();
     point_buffer points;
@@ -104,24 +105,24 @@ void get_scheme(session& z) {
                         [&] { z.typed.skip_character(); });
       points.echo_last_point();
     }
-    finish(*identifier, points);
+    finish(z.shared, *identifier, points);
   } catch (const malformed_number&) {
-    complain("malformed number\n");
+    z.shared.wrong.complain("malformed number\n");
   } catch (const end_of_input&) {
-    complain("unexpected end of input\n");
+    z.shared.wrong.complain("unexpected end of input\n");
     throw;
   }
 }
 
 void create(session& z) {
-  auto identifier = reservation::read(z.typed, z.var);
+  auto identifier = reservation::read(z.typed, z.shared.var, z.shared.wrong);
   if (!identifier) return;
-  source_file file(ask_filename(z.typed));
+  source_file file(ask_filename(z));
   if (!file.is_open()) {
-    error(error_code::cannot_open_file);
+    z.shared.wrong.error(error_code::cannot_open_file);
     return;
   }
-  read_scheme(file.stream(), *identifier);
+  read_scheme(z.shared, file.stream(), *identifier);
   std::cout << Line;
 }
 

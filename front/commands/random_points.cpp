@@ -9,7 +9,6 @@
 #include "arith/ring.h"
 #include "base/interrupt.h"
 #include "base/output.h"
-#include "front/session/error.h"
 #include "linalg/equal_rows.h"
 
 namespace zep::front {
@@ -17,8 +16,8 @@ namespace zep::front {
 namespace {
 
 // True when at least n points have their coordinates in the current range.
-bool enough_points(const session& z, int n) {
-  const long long width = static_cast<long long>(z.range2) - z.range1 + 1;
+bool enough_points(const workspace& shared, int n) {
+  const long long width = static_cast<long long>(shared.range2) - shared.range1 + 1;
   long long points = 1;
   for (int j = 0; j < dim && points < n; ++j) points *= width;
   return points >= n;
@@ -45,16 +44,16 @@ std::optional<int> read_number_of_points(session& z) {
   try {
     const int n = z.typed.integer();
     if (n <= 0) {
-      complain("number of points has to be greater than zero !\n");
-    } else if (!enough_points(z, n)) {
-      complain("not enough points in the current range !\n");
+      z.shared.wrong.complain("number of points has to be greater than zero !\n");
+    } else if (!enough_points(z.shared, n)) {
+      z.shared.wrong.complain("not enough points in the current range !\n");
     } else {
       return n;
     }
   } catch (const malformed_number&) {
-    complain("malformed number\n");
+    z.shared.wrong.complain("malformed number\n");
   } catch (const end_of_input&) {
-    complain("unexpected end of input\n");
+    z.shared.wrong.complain("unexpected end of input\n");
     throw;
   }
   return std::nullopt;
@@ -71,21 +70,22 @@ int fix_no_points(matrix&) { return 0; }
 
 // Makes a random set whose first points are set, and counted, by `fix`.
 void create_random(session& z, int (*fix)(matrix&)) {
-  auto identifier = reservation::read(z.typed, z.var);
+  workspace& shared = z.shared;
+  auto identifier = reservation::read(z.typed, shared.var, shared.wrong);
   if (!identifier) return;
   const std::optional<int> n = read_number_of_points(z);
   if (!n) return;
-  auto X = std::make_unique<scheme>(*n);
+  matrix P(dim, *n);
   // An interrupt leaves the session's generator as it was.
-  ACG generator = z.gen;
-  RandomInteger coordinate(z.range1, z.range2, generator);
-  for (int i = fix(X->P); i < *n; ++i) {
+  ACG generator = shared.gen;
+  RandomInteger coordinate(shared.range1, shared.range2, generator);
+  for (int i = fix(P); i < *n; ++i) {
     heed_interrupt();
-    draw_row(X->P, i, coordinate);
+    draw_row(P, i, coordinate);
   }
-  redraw_duplicates(X->P, coordinate);
-  z.gen = generator;
-  identifier->fill(std::move(X));
+  redraw_duplicates(P, coordinate);
+  shared.gen = generator;
+  identifier->fill(std::make_unique<scheme>(std::move(P), shared.report));
   std::cout << Line;
 }
 

@@ -5,12 +5,8 @@
 #include <string>
 
 #include "arith/Fp8.h"
-#include "arith/ordering.h"
-#include "arith/ring.h"
+#include "arith/ring_in_force.h"
 #include "base/output.h"
-#include "base/reporter.h"
-#include "front/session/error.h"
-#include "front/terminal/prompt.h"
 
 namespace zep::front {
 
@@ -27,18 +23,18 @@ bool is_prime(int n) {
 
 // Asks for the names of `needed` variables until there are enough. At most `longest_names` are read
 // at a time, so a larger ring never gets its names.
-std::string ask_names(input& in, long long needed) {
+std::string ask_names(session& z, long long needed) {
   while (true) {
-    prompt("enter " + std::to_string(needed) + " identifiers for current ring : ");
-    std::string names = in.word(longest_names);
+    z.shared.prompt.ask("enter " + std::to_string(needed) + " identifiers for current ring : ");
+    std::string names = z.typed.word(longest_names);
     if (static_cast<long long>(names.size()) >= needed) return names;
-    count_error();
+    z.shared.wrong.count();
     std::cerr << "not enough indentifiers\n";
   }
 }
 
-void show_range(const session& z) {
-  std::cout << "current range : [" << z.range1 << "," << z.range2 << "]\n";
+void show_range(const workspace& shared) {
+  std::cout << "current range : [" << shared.range1 << "," << shared.range2 << "]\n";
 }
 
 // The upper border that is typed. What is no number costs the rest of its line.
@@ -47,30 +43,30 @@ int read_border(session& z) {
     return std::min(z.typed.integer(), Fp8::prime - 1);
   } catch (const malformed_number&) {
     z.typed.drop_rest_of_line();
-    return z.range1;
+    return z.shared.range1;
   }
+}
+
+void change_ring(const ring& R) {
+  enforce(R);
+  show_settings();
+}
+
+void set_order(session& z, term_order order) {
+  ring R = current_ring();
+  R.order = order;
+  change_ring(R);
+  z.shared.var.del_all(false);
 }
 
 }  // namespace
 
-void set_defaults(session& z) {
-  set_dimension(3);
-  varstring = "XYZTabcdefghijklmnopqrstuvw";
-  verbose = 1;
-  set_line_length(80);
-  Fp8::prime = 101;
-  z.range1 = 0;
-  z.range2 = std::min(default_range2, Fp8::prime - 1);
-  Fp8::init();
-  use_degrevlex();
-}
-
 void show_settings() {
-  std::cout << "dimension         : " << dim << "\n"
-            << "ring              : F" << Fp8::prime << "["
-            << varstring.substr(0, static_cast<std::size_t>(proj)) << "]\n"
-            << "monomial ordering : " << (monom_ordering == 0 ? "deg-lex\n" : "deg-rev-lex\n")
-            << Line;
+  const ring& R = current_ring();
+  std::cout << "dimension         : " << R.n << "\n"
+            << "ring              : F" << R.p << "[" << R.names.substr(0, R.n + 1) << "]\n"
+            << "monomial ordering : "
+            << (R.order == term_order::deglex ? "deg-lex\n" : "deg-rev-lex\n") << Line;
 }
 
 void hello() {
@@ -80,67 +76,62 @@ void hello() {
 }
 
 void characteristic(session& z) {
-  const int n = z.typed.integer_or(0);
-  if (n < 2 || n > largest_prime) {
-    complain("characteristic has to be a prime (2 - 251) !\n");
+  const int p = z.typed.integer_or(0);
+  if (p < 2 || p > largest_prime) {
+    z.shared.wrong.complain("characteristic has to be a prime (2 - 251) !\n");
     return;
   }
-  if (!is_prime(n)) std::cerr << "warning: " << n << " is not a prime\n";
-  Fp8::prime = n;
-  Fp8::init();
-  z.range2 = std::min(z.range2, n - 1);
+  if (!is_prime(p)) std::cerr << "warning: " << p << " is not a prime\n";
+  ring R = current_ring();
+  R.p = p;
+  z.shared.range2 = std::min(z.shared.range2, p - 1);
   std::cout << Line;
-  show_settings();
-  z.var.del_all(false);
+  change_ring(R);
+  z.shared.var.del_all(false);
 }
 
 void set_dim(session& z) {
   const int n = z.typed.integer_or(0);
   if (n <= 1) {
-    complain("\ndimension has to be greater than one !!!\n");
+    z.shared.wrong.complain("\ndimension has to be greater than one !!!\n");
     return;
   }
-  z.var.del_all(false);
+  z.shared.var.del_all(false);
+  ring R = current_ring();
   const long long needed = static_cast<long long>(n) + 1;
-  if (needed > static_cast<long long>(varstring.size())) {
+  if (needed > std::ssize(R.names)) {
     std::cerr << "not enough indentifiers\n";
-    varstring = ask_names(z.typed, needed);
+    R.names = ask_names(z, needed);
   }
-  set_dimension(n);
-  show_settings();
+  R.n = n;
+  change_ring(R);
 }
 
 void identifiers(session& z) {
-  varstring = ask_names(z.typed, proj);
-  show_settings();
+  ring R = current_ring();
+  R.names = ask_names(z, proj);
+  change_ring(R);
 }
 
 void range(session& z) {
-  show_range(z);
-  int border = z.range1;
-  while (border <= z.range1) {
-    prompt("enter upper border : ");
+  workspace& shared = z.shared;
+  show_range(shared);
+  int border = shared.range1;
+  while (border <= shared.range1) {
+    shared.prompt.ask("enter upper border : ");
     border = read_border(z);
-    if (border <= z.range1) {
-      complain("upper border must be greater than lower border !!!\n");
+    if (border <= shared.range1) {
+      shared.wrong.complain("upper border must be greater than lower border !!!\n");
     }
   }
-  z.range2 = border;
-  show_range(z);
+  shared.range2 = border;
+  show_range(shared);
   std::cout << Line;
 }
 
-void deglex(session& z) {
-  use_deglex();
-  show_settings();
-  z.var.del_all(false);
-}
+void deglex(session& z) { set_order(z, term_order::deglex); }
 
-void degrevlex(session& z) {
-  use_degrevlex();
-  show_settings();
-  z.var.del_all(false);
-}
+void degrevlex(session& z) { set_order(z, term_order::degrevlex); }
 
 void root() {
   std::cout << "please use 'TORVEN' for computations over the field with n-th roots of unity\n"

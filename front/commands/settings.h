@@ -8,9 +8,6 @@
 
 namespace zep::front {
 
-// Puts all defaults in force: P^3 over F_101, degree-reverse-lexicographic order, 80 columns.
-void set_defaults(session& z);
-
 // Prints dimension, ring and ordering, and Line.
 void show_settings();
 

@@ -3,46 +3,77 @@
 #include <ostream>
 #include <string>
 
-#include "front/files/into_file.h"
-#include "points/strand/linid.h"
-#include "points/strand/linom.h"
+#include "front/commands/into_file.h"
+#include "text/strand_text.h"
+#include "text/strands.h"
 
 namespace zep::front {
 
 namespace {
 
-using writer = void (*)(std::ostream& out, scheme& X);
-
-void into(const std::string& name, existing_contents existing, writer write_to, scheme& X) {
-  into_named_file(name, existing, [&](std::ostream& out) { write_to(out, X); });
+void write_strand_of_I_X(std::ostream& out, scheme& X) {
+  const auto write_level = [&](int level, const form_vectors& vectors) {
+    text::put_matrix(out, level + 1, "I_X", vectors);
+  };
+  X.linid(write_level, scheme::numbers::count);
 }
 
-void ask_and_write(session& z, int identifier, writer write_to) {
-  scheme& X = z.var.object(identifier);
-  into(ask_filename(z.typed), existing_contents::drop, write_to, X);
+void write_strand_of_w_R(std::ostream& out, scheme& X) {
+  const auto write_level = [&](int level, const form_vectors& vectors) {
+    text::put_matrix(out, level, "w_R", vectors);
+    return true;
+  };
+  X.linom(write_level, scheme::numbers::count);
 }
 
 }  // namespace
 
-void putlinid(session& z, int identifier) { ask_and_write(z, identifier, points::putlinid); }
-
-void putlinom(session& z, int identifier) { ask_and_write(z, identifier, points::putlinom); }
-
-void putlinres(session& z, int identifier) {
-  scheme& X = z.var.object(identifier);
-  const std::string name = ask_filename(z.typed);
-  into(name, existing_contents::drop, points::putlinid, X);
-  into(name, existing_contents::keep, points::putlinom, X);
+void putlinid(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) { write_strand_of_I_X(out, todo.X()); });
 }
 
-void putlinsyz(session& z, int identifier) { ask_and_write(z, identifier, points::putlinsyz); }
+void putlinom(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) { write_strand_of_w_R(out, todo.X()); });
+}
 
-void putlinomsyz(session& z, int identifier) { ask_and_write(z, identifier, points::putlinomsyz); }
+void putlinres(const invocation& todo) {
+  complaints& wrong = todo.z.shared.wrong;
+  const std::string name = ask_filename(todo.z);
+  into_named_file(wrong, name, existing_contents::drop,
+                  [&](std::ostream& out) { write_strand_of_I_X(out, todo.X()); });
+  into_named_file(wrong, name, existing_contents::keep,
+                  [&](std::ostream& out) { write_strand_of_w_R(out, todo.X()); });
+}
 
-void writelinid(session& z, int identifier) { ask_and_write(z, identifier, disp_linid); }
+void putlinsyz(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) {
+    const auto write_syzygies = [&](int level, const form_vectors& vectors) {
+      if (level > 0) text::put_vectors(out, vectors);
+    };
+    todo.X().linid(write_syzygies, scheme::numbers::stay);
+  });
+}
 
-void writelinom(session& z, int identifier) { ask_and_write(z, identifier, disp_linom); }
+void putlinomsyz(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) {
+    const auto write_relations = [&](int /*level*/, const form_vectors& vectors) {
+      text::put_vectors(out, vectors);
+      return false;
+    };
+    todo.X().linom(write_relations, scheme::numbers::stay);
+  });
+}
 
-void writelinres(session& z, int identifier) { ask_and_write(z, identifier, disp_linres); }
+void writelinid(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) { text::disp_linid(out, todo.X().known()); });
+}
+
+void writelinom(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) { text::disp_linom(out, todo.X().known()); });
+}
+
+void writelinres(const invocation& todo) {
+  into_file(todo.z, [&](std::ostream& out) { text::disp_linres(out, todo.X().known()); });
+}
 
 }  // namespace zep::front

@@ -7,8 +7,6 @@
 #include <iostream>
 #include <utility>
 
-#include "front/terminal/prompt.h"
-
 namespace zep::front {
 
 namespace {
@@ -18,16 +16,10 @@ result_file* open_file = nullptr;
 
 }  // namespace
 
-std::string ask_filename(input& in) {
-  prompt(filename_prompt);
-  return in.word();
-}
-
-source_file::source_file(const std::string& name)
-    : buffer_(open_source(name), std::ios::in), stream_(&buffer_) {}
+source_file::source_file(const std::string& name) : buffer_(open_source(name)), stream_(&buffer_) {}
 
 result_buffer::result_buffer(int descriptor, existing_contents existing)
-    : stdio_filebuf(descriptor, std::ios::out) {
+    : descriptor_writer(descriptor) {
   if (existing == existing_contents::keep) {
     kept_length_ = std::max<off_t>(::lseek(descriptor, 0, SEEK_END), 0);
   }
@@ -37,24 +29,17 @@ void result_buffer::begin() {
   if (begun_) return;
   begun_ = true;
   // A pipe has no length.
-  static_cast<void>(::ftruncate(fd(), kept_length_));
+  static_cast<void>(::ftruncate(descriptor(), kept_length_));
 }
 
 void result_buffer::take_back() {
-  const int descriptor = fd();
-  // The buffer still holds a part, which would be written at its end.
-  if (begun_) static_cast<void>(::ftruncate(descriptor, kept_length_));
-  static_cast<void>(::close(descriptor));
+  if (begun_) static_cast<void>(::ftruncate(descriptor(), kept_length_));
+  static_cast<void>(close_unwritten());
 }
 
 result_buffer::int_type result_buffer::overflow(int_type c) {
   begin();
-  return stdio_filebuf::overflow(c);
-}
-
-std::streamsize result_buffer::xsputn(const char* text, std::streamsize count) {
-  if (count > 0) begin();
-  return stdio_filebuf::xsputn(text, count);
+  return descriptor_writer::overflow(c);
 }
 
 result_file::result_file(std::string name, existing_contents existing)
@@ -70,7 +55,7 @@ result_file::~result_file() {
 void result_file::close() {
   buffer_.begin();
   const bool flushed = stream_.flush().good();
-  const bool closed = buffer_.close() != nullptr;
+  const bool closed = buffer_.close();
   open_file = nullptr;
   if (!flushed || !closed) std::cerr << "warning: can't write all of " << name_ << "\n";
 }

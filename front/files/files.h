@@ -2,21 +2,14 @@
 #pragma once
 
 #include <cstdint>
-#include <ext/stdio_filebuf.h>
 #include <istream>
 #include <ostream>
 #include <string>
 
+#include "front/files/descriptor_buffer.h"
 #include "front/files/open_file.h"
-#include "front/session/input.h"
 
 namespace zep::front {
-
-// Asks for a file name and reads it, one word of any length. Throws end_of_input.
-std::string ask_filename(input& in);
-
-// The standard library opens files with permissions and in modes of its own, but takes an open
-// descriptor in a buffer of its implementation.
 
 // A text file that is read.
 class source_file {
@@ -29,13 +22,13 @@ class source_file {
   std::istream& stream() { return stream_; }
 
  private:
-  __gnu_cxx::stdio_filebuf<char> buffer_;
+  descriptor_reader buffer_;
   std::istream stream_;
 };
 
-// Writes a file through a descriptor, which it closes. What the file held stays until writing
-// begins, so that whoever gives up before that loses nothing.
-class result_buffer : public __gnu_cxx::stdio_filebuf<char> {
+// Writes a file. What it held stays until writing begins, so that whoever gives up before that
+// loses nothing.
+class result_buffer : public descriptor_writer {
  public:
   result_buffer(int descriptor, existing_contents existing);
 
@@ -48,7 +41,6 @@ class result_buffer : public __gnu_cxx::stdio_filebuf<char> {
 
  protected:
   int_type overflow(int_type c) override;
-  std::streamsize xsputn(const char* text, std::streamsize count) override;
 
  private:
   // What stays of the file once writing has begun.

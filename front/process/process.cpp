@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <initializer_list>
 #include <iostream>
 
@@ -42,6 +43,11 @@ void prepare_process() {
   open_closed_descriptors();
   for (const int signal : {SIGXFSZ, SIGPIPE}) static_cast<void>(std::signal(signal, SIG_IGN));
   touch_stack();
+}
+
+void end_with(const division_by_zero& fault) {
+  std::cout << "\n" << fault.field << ": division by zero\n" << std::flush;
+  std::exit(1);
 }
 
 int finish_output() {

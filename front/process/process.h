@@ -1,7 +1,7 @@
 // The surroundings of the process.
 #pragma once
 
-#include "base/floors.h"
+#include "arith/division_by_zero.h"
 
 namespace zep::front {
 
@@ -13,6 +13,9 @@ namespace zep::front {
 // - the stack has all the space that it will need, so that exhausted memory is seen where memory is
 //   asked for, and nowhere else.
 void prepare_process();
+
+// Says on standard output what divided by zero, and ends the process with status 1.
+[[noreturn]] void end_with(const division_by_zero& fault);
 
 // Writes out what standard output still holds, and returns the exit status: 0, also when whoever
 // read the output has gone, but 1 when it can't be written for another reason, which is said on

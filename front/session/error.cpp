@@ -4,23 +4,13 @@
 
 namespace zep::front {
 
-namespace {
-
-int errors = 0;
-
-}  // namespace
-
-void count_error() { ++errors; }
-
-int no_of_errors() { return errors; }
-
-void complain(std::string_view text) {
-  count_error();
+void complaints::complain(std::string_view text) {
+  count();
   std::cout << text;
 }
 
-void error(int code) {
-  count_error();
+void complaints::error(error_code code) {
+  count();
   switch (code) {
     case error_code::cannot_open_file:
       std::cout << "can't open file\n";
@@ -48,8 +38,6 @@ void error(int code) {
       break;
     case error_code::already_exists:
       std::cout << "indentifier already exists\n";
-      break;
-    default:
       break;
   }
 }

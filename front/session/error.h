@@ -8,29 +8,36 @@
 namespace zep::front {
 
 // Numbers of user errors.
-namespace error_code {
-constexpr int cannot_open_file = 30;
-constexpr int different_dimensions = 31;
-constexpr int unknown_word = 102;
-constexpr int needs_identifier = 104;
-constexpr int not_alphanumeric = 105;
-constexpr int unknown_identifier = 107;
-constexpr int wrong_type = 108;
-constexpr int memory_exceeded = 110;
-constexpr int already_exists = 111;
-}  // namespace error_code
+enum class error_code {
+  cannot_open_file = 30,
+  different_dimensions = 31,
+  unknown_word = 102,
+  needs_identifier = 104,
+  not_alphanumeric = 105,
+  unknown_identifier = 107,
+  wrong_type = 108,
+  memory_exceeded = 110,
+  already_exists = 111
+};
 
-// Prints the text of a user error on standard output; nothing for an unknown number. 30 goes on
-// with the text of 31, and 31 with that of 102.
-void error(int code);
+// Tells the user what was wrong, on standard output, and counts.
+class complaints {
+ public:
+  // Prints the text of a user error. cannot_open_file goes on with the text of
+  // different_dimensions, and that with the text of unknown_word.
+  void error(error_code code);
 
-// Prints the text of an error that has no number on standard output.
-void complain(std::string_view text);
+  // Prints the text of an error that has no number.
+  void complain(std::string_view text);
 
-// For an error whose text is printed elsewhere.
-void count_error();
+  // For an error whose text is printed elsewhere.
+  void count() { ++number_; }
 
-// Number of errors that have been reported so far in this process.
-int no_of_errors();
+  // Number of errors so far.
+  int number() const { return number_; }
+
+ private:
+  int number_ = 0;
+};
 
 }  // namespace zep::front

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "base/output.h"
-#include "front/session/error.h"
 #include "text/record.h"
 
 namespace zep::front {
@@ -16,82 +15,80 @@ bool is_alphanumeric(char c) {
   return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
+bool is_free(const identifier& id) { return id.name.empty(); }
+
 }  // namespace
 
-int identifier_table::find(const std::string& name) const {
-  for (int i = 0; i < size; ++i) {
-    if (entry(i).name == name) return i;
-  }
-  return unknown_identifier;
+identifier* identifier_table::find(const std::string& name) {
+  const auto found =
+      std::find_if(var_.begin(), var_.end(), [&](const identifier& id) { return id.name == name; });
+  return found == var_.end() ? nullptr : &*found;
 }
-
-int identifier_table::first_free() const { return find(std::string()); }
 
 std::vector<std::string> identifier_table::names() const {
   std::vector<std::string> used;
-  for (int i = 0; i < size; ++i) {
-    if (!entry(i).name.empty()) used.push_back(entry(i).name);
+  for (const identifier& id : var_) {
+    if (!is_free(id)) used.push_back(id.name);
   }
   return used;
 }
 
-void identifier_table::del(int i, bool quiet) {
-  if (!quiet) std::cout << entry(i).name << " deleted\n";
-  entry(i) = record();
+void identifier_table::del(identifier& id, bool quiet) {
+  if (!quiet) std::cout << id.name << " deleted\n";
+  id = identifier();
 }
 
 void identifier_table::del_all(bool quiet) {
   bool any = false;
-  for (int i = 0; i < size; ++i) {
-    if (entry(i).name.empty()) continue;
-    del(i, quiet);
+  for (identifier& id : var_) {
+    if (is_free(id)) continue;
+    del(id, quiet);
     any = true;
   }
   if (any && !quiet) std::cout << Line;
 }
 
-void identifier_table::display(int i, bool full) const {
-  if (type(i) == scheme_type) std::cout << "scheme " << entry(i).name;
+void identifier_table::display(const identifier& id, bool full) {
+  if (id.object != nullptr) std::cout << "scheme " << id.name;
   std::cout << (full ? ":\n" : "\n");
-  if (full && type(i) == scheme_type) std::cout << object(i);
+  if (full && id.object != nullptr) text::display(std::cout, std::cout, *id.object);
 }
 
 void identifier_table::list_all(bool full) const {
-  for (int i = 0; i < size; ++i) {
-    if (!entry(i).name.empty()) display(i, full);
+  for (const identifier& id : var_) {
+    if (!is_free(id)) display(id, full);
   }
 }
 
-std::optional<reservation> reservation::read(input& in, identifier_table& table) {
+std::optional<reservation> reservation::read(input& in, identifier_table& table,
+                                             complaints& wrong) {
   const std::string name = in.word(identifier_length);
   if (!std::all_of(name.begin(), name.end(), is_alphanumeric)) {
-    error(error_code::not_alphanumeric);
+    wrong.error(error_code::not_alphanumeric);
     return std::nullopt;
   }
-  if (table.find(name) != unknown_identifier) {
-    error(error_code::already_exists);
+  if (table.find(name) != nullptr) {
+    wrong.error(error_code::already_exists);
     return std::nullopt;
   }
-  const int index = table.first_free();
-  if (index == unknown_identifier) {
-    error(error_code::memory_exceeded);
+  const auto free = std::find_if(table.var_.begin(), table.var_.end(), is_free);
+  if (free == table.var_.end()) {
+    wrong.error(error_code::memory_exceeded);
     return std::nullopt;
   }
-  table.entry(index).name = name;
-  return reservation(table, index);
+  free->name = name;
+  return reservation(*free);
 }
 
-reservation::reservation(reservation&& other) noexcept
-    : table_(std::exchange(other.table_, nullptr)), index_(other.index_) {}
+reservation::reservation(reservation&& other) noexcept : id_(std::exchange(other.id_, nullptr)) {}
 
 reservation::~reservation() {
-  if (table_ != nullptr) table_->del(index_, true);
+  if (id_ != nullptr) identifier_table::del(*id_, true);
 }
 
 void reservation::fill(std::unique_ptr<scheme> object) {
-  table_->entry(index_).object = std::move(object);
-  table_->entry(index_).type = scheme_type;
-  table_ = nullptr;
+  id_->object = std::move(object);
+  id_ = nullptr;
 }
 
 }  // namespace zep::front

@@ -7,76 +7,60 @@
 #include <string>
 #include <vector>
 
+#include "front/session/error.h"
 #include "front/session/input.h"
 #include "points/record/scheme.h"
 
 namespace zep::front {
 
 // Words for commands and identifiers are cut to this length.
-constexpr int identifier_length = 12;
+inline constexpr int identifier_length = 12;
 
-// What `identifier_table::find` answers for a word that names nothing.
-constexpr int unknown_identifier = -2;
-// An index for no word at all.
-constexpr int no_identifier = -1;
-
-// The type of an identifier that names a scheme, the only type there is; 0 is a free record.
-constexpr int scheme_type = 3;
+// A name with its scheme. While the scheme is being made there is none yet; a free one has no name.
+struct identifier {
+  std::string name;
+  std::unique_ptr<scheme> object;
+};
 
 class reservation;
 
-// 50 records, each free (empty name) or a named scheme.
+// 50 identifiers, some of them free.
 class identifier_table {
  public:
   static constexpr int size = 50;
 
-  // Index of the record with that name, or unknown_identifier.
-  int find(const std::string& name) const;
+  // The identifier with that name, which is not empty; null if there is none.
+  identifier* find(const std::string& name);
 
-  // Type of record i.
-  int type(int i) const { return entry(i).type; }
-
-  // The scheme of record i. Requires type scheme_type.
-  scheme& object(int i) const { return *entry(i).object; }
-
-  // The names in use, in index order.
+  // The names in use, in the order of the table.
   std::vector<std::string> names() const;
 
-  // Frees record i and destroys its scheme; says so unless `quiet`.
-  void del(int i, bool quiet);
+  // Frees the identifier, which is one of the table, and destroys its scheme; says so unless
+  // `quiet`.
+  static void del(identifier& id, bool quiet);
 
-  // Frees every record, in index order; unless `quiet`, Line follows if there was any.
+  // Frees every identifier, in order; unless `quiet`, Line follows if there was any.
   void del_all(bool quiet);
 
-  // Prints name and type of record i, with all that is known of the scheme if `full`.
-  void display(int i, bool full) const;
+  // Prints name and type of the identifier, with all that is known of the scheme if `full`.
+  static void display(const identifier& id, bool full);
 
-  // Displays every record in use, in index order.
+  // Displays every identifier in use, in order.
   void list_all(bool full) const;
 
  private:
   friend class reservation;
 
-  struct record {
-    std::string name;
-    int type = 0;
-    std::unique_ptr<scheme> object;
-  };
-
-  record& entry(int i) { return var_[i]; }
-  const record& entry(int i) const { return var_[i]; }
-  int first_free() const;
-
-  std::array<record, size> var_;
+  std::array<identifier, size> var_;
 };
 
-// A record that is being filled. It is in the table from the start, and freed again when the
+// An identifier that is being filled. It is in the table from the start, and freed again when the
 // reservation ends without a scheme.
 class reservation {
  public:
-  // Reads a name and reserves the lowest free record of the table under it. A bad name, one in use
-  // or a full table is reported, and nothing is reserved. Throws end_of_input.
-  static std::optional<reservation> read(input& in, identifier_table& table);
+  // Reads a name and reserves the lowest free identifier of the table for it. A bad name, one in
+  // use or a full table is complained of, and nothing is reserved. Throws end_of_input.
+  static std::optional<reservation> read(input& in, identifier_table& table, complaints& wrong);
 
   reservation(reservation&& other) noexcept;
   reservation(const reservation&) = delete;
@@ -84,15 +68,14 @@ class reservation {
   reservation& operator=(reservation&&) = delete;
   ~reservation();
 
-  // Gives the scheme to the record, which is an identifier from now on.
+  // Gives it the scheme.
   void fill(std::unique_ptr<scheme> object);
 
  private:
-  reservation(identifier_table& table, int index) : table_(&table), index_(index) {}
+  explicit reservation(identifier& id) : id_(&id) {}
 
   // Null when nothing is left to free.
-  identifier_table* table_;
-  int index_;
+  identifier* id_;
 };
 
 }  // namespace zep::front

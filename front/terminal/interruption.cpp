@@ -1,7 +1,7 @@
 #include "front/terminal/interruption.h"
 
 #include <fcntl.h>
-#include <poll.h>
+#include <sys/select.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -31,16 +31,18 @@ int keyboard() {
     const char* const name = ::ttyname(STDIN_FILENO);
     const int opened =
         name != nullptr ? ::open(name, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC) : -1;
-    return opened >= 0 ? opened : STDIN_FILENO;
+    // What waits below knows small numbers only.
+    return opened >= 0 && opened < FD_SETSIZE ? opened : STDIN_FILENO;
   }();
   return descriptor;
 }
 
 sigset_t held_signals() {
   sigset_t held;
-  ::sigemptyset(&held);
-  ::sigaddset(&held, SIGINT);
-  ::sigaddset(&held, SIGCONT);
+  // Macros on some systems, which stand in no namespace.
+  sigemptyset(&held);
+  sigaddset(&held, SIGINT);
+  sigaddset(&held, SIGCONT);
   return held;
 }
 
@@ -71,11 +73,15 @@ held_interrupts::~held_interrupts() { ::pthread_sigmask(SIG_SETMASK, &before_, n
 key_event held_interrupts::await_key(char& key) const {
   if (pending != 0) return key_event::signal;
   sigset_t let_in = before_;
-  ::sigdelset(&let_in, SIGINT);
-  ::sigdelset(&let_in, SIGCONT);
-  pollfd waiting{keyboard(), POLLIN, 0};
-  if (::ppoll(&waiting, 1, nullptr, &let_in) < 0) return key_event::signal;
-  const ssize_t count = ::read(waiting.fd, &key, 1);
+  sigdelset(&let_in, SIGINT);
+  sigdelset(&let_in, SIGCONT);
+  fd_set waiting;
+  FD_ZERO(&waiting);
+  FD_SET(keyboard(), &waiting);
+  if (::pselect(keyboard() + 1, &waiting, nullptr, nullptr, nullptr, &let_in) < 0) {
+    return key_event::signal;
+  }
+  const ssize_t count = ::read(keyboard(), &key, 1);
   if (count == 1) return key_event::key;
   const bool gone = count < 0 && (errno == EAGAIN || errno == EINTR);
   return gone ? key_event::signal : key_event::end_of_input;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "base/floors.h"
+#include "front/terminal/prompt.h"
 
 namespace zep::front {
 
@@ -16,9 +16,9 @@ struct completions {
   bool files = false;
 };
 
-// What the word behind `before`, on the line with this prompt, may become. Words that do not go on
-// from what is typed of it are left out later.
-using completer = std::function<completions(const std::string& prompt, const std::string& before)>;
+// What the word behind `before` may become, on a line where this is awaited. Words that do not go
+// on from what is typed of it are left out later.
+using completer = std::function<completions(awaited what, const std::string& before)>;
 
 struct typed_line {
   enum class ending { line, end_of_input, interrupt };
@@ -30,10 +30,10 @@ struct typed_line {
 // Makes ready for reading lines from the terminal. There is one editor in a process.
 void start_editing(const completer& complete);
 
-// Reads a line in answer to the prompt, and brings its end to the screen. What stands before it on
+// Reads a line where this is awaited, and brings its end to the screen. What stands before it on
 // its line of the screen is there already: the prompt, unless prompts are off, and perhaps more. An
 // interrupt ends it. Requires interrupts to be caught.
-typed_line read_line(const std::string& prompt, const std::string& before_it);
+typed_line read_line(awaited what, const std::string& before_it);
 
 // Drops what was pasted and has not been handed over as a line. (Pasted lines are handed over one
 // by one.)

@@ -6,7 +6,7 @@ namespace zep::front {
 void start_editing(const completer& /*complete*/) {}
 
 // The terminal itself does the editing, and hands over whole lines.
-typed_line read_line(const std::string& /*prompt*/, const std::string& /*before_it*/) {
+typed_line read_line(awaited /*what*/, const std::string& /*before_it*/) {
   const held_interrupts held;
   std::string text;
   while (true) {

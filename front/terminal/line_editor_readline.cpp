@@ -22,8 +22,10 @@ namespace {
 // The library calls back without an argument, so what it needs is kept here.
 struct state {
   completer complete;
-  std::string prompt;
+  awaited what = awaited::command;
   completions found;
+  // The word of these that is looked at next.
+  std::size_t next_word = 0;
   // What has been pasted and is not in the line yet: lines, and what stands behind the last one.
   std::queue<std::string> pasted_lines;
   std::string pasted_piece;
@@ -44,7 +46,7 @@ volatile std::sig_atomic_t continued = 0;
 void note_continuation(int /*signal*/) { continued = 1; }
 
 char* next_word(const char* word, int already) {
-  static std::size_t next = 0;
+  std::size_t& next = editor().next_word;
   if (already == 0) next = 0;
   const std::vector<std::string>& words = editor().found.words;
   while (next < words.size()) {
@@ -69,7 +71,7 @@ char* next_file(const char* word, int already) {
 char** complete_word(const char* word, int start, int /*end*/) {
   rl_attempted_completion_over = 1;
   const std::string before(rl_line_buffer, static_cast<std::size_t>(start));
-  editor().found = editor().complete(editor().prompt, before);
+  editor().found = editor().complete(editor().what, before);
   if (editor().found.files) return ::rl_completion_matches(word, next_file);
   return ::rl_completion_matches(word, next_word);
 }
@@ -181,10 +183,10 @@ void start_editing(const completer& complete) {
   ::using_history();
 }
 
-typed_line read_line(const std::string& prompt, const std::string& before_it) {
+typed_line read_line(awaited what, const std::string& before_it) {
   const held_interrupts held;
   editor().held = &held;
-  editor().prompt = prompt;
+  editor().what = what;
   if (!editor().pasted_lines.empty()) {
     const std::string line = next_pasted_line();
     show(line + "\n");

@@ -5,23 +5,12 @@
 
 namespace zep::front {
 
-namespace {
-
-bool shown = true;
-std::string on_the_line;
-
-}  // namespace
-
-bool prompt(std::string_view text) {
-  on_the_line = text;
-  if (shown) std::cout << text;
+bool prompter::ask(std::string_view question, awaited what) {
+  asked_for_ = what;
+  if (shown_) std::cout << question;
   return std::cout.flush().good();
 }
 
-void show_prompts(bool on) { shown = on; }
-
-bool prompts_are_shown() { return shown; }
-
-std::string take_prompt() { return std::exchange(on_the_line, {}); }
+awaited prompter::take() { return std::exchange(asked_for_, awaited::more); }
 
 }  // namespace zep::front

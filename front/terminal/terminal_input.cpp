@@ -5,7 +5,6 @@
 
 #include "base/interrupt.h"
 #include "front/terminal/interruption.h"
-#include "front/terminal/prompt.h"
 
 namespace zep::front {
 
@@ -18,7 +17,8 @@ std::string without_blanks_at_its_end(std::string line) {
 
 }  // namespace
 
-terminal_input::terminal_input(screen_line& screen, const completer& complete) : screen_(screen) {
+terminal_input::terminal_input(screen_line& screen, prompter& prompt, const completer& complete)
+    : screen_(screen), prompt_(prompt) {
   start_editing(complete);
 }
 
@@ -31,13 +31,13 @@ int terminal_input::sync() {
 }
 
 // An interrupt that came before the line is awaited counts as well.
-typed_line terminal_input::next_line(const std::string& prompted) {
+typed_line terminal_input::next_line(awaited what) {
   if (take_interrupt()) {
     forget_pasted_lines();
     std::cout << "\n";
     return {typed_line::ending::interrupt, {}};
   }
-  typed_line typed = read_line(prompted, screen_.text());
+  typed_line typed = read_line(what, screen_.text());
   screen_.start_anew();
   return typed;
 }
@@ -45,9 +45,9 @@ typed_line terminal_input::next_line(const std::string& prompted) {
 terminal_input::int_type terminal_input::underflow() {
   if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
   while (!ended_) {
-    const std::string prompted = take_prompt();
+    const awaited what = prompt_.take();
     std::cout.flush();
-    typed_line typed = next_line(prompted);
+    typed_line typed = next_line(what);
     if (typed.how == typed_line::ending::line) {
       line_ = without_blanks_at_its_end(std::move(typed.text));
       if (!line_.empty()) remember_line(line_);
@@ -56,8 +56,8 @@ terminal_input::int_type terminal_input::underflow() {
       return traits_type::to_int_type(*gptr());
     }
     ended_ = typed.how == typed_line::ending::end_of_input;
-    if (!ended_ && prompted != command_prompt) throw interrupted();
-    if (!ended_) prompt(command_prompt);
+    if (!ended_ && what != awaited::command) throw interrupted();
+    if (!ended_) prompt_.ask_for_command();
   }
   return traits_type::eof();
 }

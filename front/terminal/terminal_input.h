@@ -5,6 +5,7 @@
 #include <string>
 
 #include "front/terminal/line_editor.h"
+#include "front/terminal/prompt.h"
 #include "front/terminal/screen_line.h"
 
 namespace zep::front {
@@ -16,8 +17,8 @@ namespace zep::front {
 // input has ended it stays ended.
 class terminal_input : public std::streambuf {
  public:
-  // Reads in the line of the screen, which must outlive this.
-  terminal_input(screen_line& screen, const completer& complete);
+  // Reads in the line of the screen what the prompter has asked for; both must outlive this.
+  terminal_input(screen_line& screen, prompter& prompt, const completer& complete);
   ~terminal_input() override;
   terminal_input(const terminal_input&) = delete;
   terminal_input& operator=(const terminal_input&) = delete;
@@ -28,9 +29,10 @@ class terminal_input : public std::streambuf {
   int sync() override;
 
  private:
-  typed_line next_line(const std::string& prompted);
+  typed_line next_line(awaited what);
 
   screen_line& screen_;
+  prompter& prompt_;
   std::string line_;
   bool ended_ = false;
 };

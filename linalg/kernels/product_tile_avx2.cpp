@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "linalg/kernels/avx2.h"
+#include "linalg/kernels/float_reduction.h"
 
 namespace zep::linalg {
 
@@ -14,8 +15,6 @@ using avx2::load;
 using avx2::word;
 
 static_assert(tile_rows == 4 && tile_cols == 16);
-static_assert(exact_in_a_float == 1U << 24U);
-static_assert(products_in_a_tile * 6 * 6 + 6 < 1U << 14U);
 
 // One row of a tile in 32-bit sums.
 struct tile_row {
@@ -39,16 +38,12 @@ struct tile_row {
   return load<32>(reinterpret_cast<const std::uint8_t*>(b));
 }
 
-// Reduces sums x below 2^24, which a float holds exactly, as it does the products of p with
-// integers that are not greater. The reciprocal is too small by at most 3 parts in 2^23, and
-// rounding adds one: so the quotient is not greater than the true one, and smaller by less than x /
-// p * 4 / 2^23 + 1. The rest is below p + x / 2^21. That is p + 8, or, for p < 8, where sums are
-// below 2^14, at most p: always less than 2 * p, so that p is subtracted once if at all.
+// Reduces sums: float_reduction.h says why that is right.
 class reduction {
  public:
   [[gnu::target("avx2")]] explicit reduction(lane p)
       : p_(_mm256_set1_ps(static_cast<float>(p))),
-        reciprocal_(_mm256_set1_ps((1.0F - 0x1p-22F) / static_cast<float>(p))),
+        reciprocal_(_mm256_set1_ps(reciprocal_below(p))),
         p_in_lanes_(avx2::all_lanes(p)) {}
 
   [[gnu::target("avx2")]] void store(std::uint8_t* c, const tile_row& sums) const {

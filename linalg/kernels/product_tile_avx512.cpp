@@ -10,6 +10,8 @@
 
 #include <cstring>
 
+#include "linalg/kernels/float_reduction.h"
+
 namespace zep::linalg {
 
 namespace {
@@ -35,12 +37,12 @@ static_assert(tile_rows == 4 && tile_cols == 16);
   sums = _mm512_add_epi32(sums, _mm512_madd_epi16(_mm512_set1_epi32(pair), b));
 }
 
-// Reduces sums below 2^24. What there is to prove stands with its namesake for AVX2.
+// Reduces sums: float_reduction.h says why that is right.
 class reduction {
  public:
   [[gnu::target("avx512bw")]] explicit reduction(lane p)
       : p_(_mm512_set1_ps(static_cast<float>(p))),
-        reciprocal_(_mm512_set1_ps((1.0F - 0x1p-22F) / static_cast<float>(p))),
+        reciprocal_(_mm512_set1_ps(reciprocal_below(p))),
         p_as_integer_(_mm512_set1_epi32(p)) {}
 
   [[gnu::target("avx512bw")]] void store(byte* c, word sums) const {

@@ -1,11 +1,12 @@
-// Canonical forms, when they are needed.
+// Multiplication in the Artinian reduction.
 #pragma once
 
-#include "points/record/scheme.h"
+#include "points/ring/canonical_forms.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
-// Makes sure that bu_mo has run and that X.Can_Lf exists.
-void need_Can_Lf(scheme& X);
+// The canonical forms of R/(X_0), modulo the leading forms of the Groebner basis of X.
+canonical_forms Can_Lf(const order_ideal& X);
 
 }  // namespace zep::points

@@ -1,24 +1,17 @@
 #include "points/ideal/minimal_generators.h"
 
 #include <algorithm>
-#include <ostream>
 #include <utility>
 #include <vector>
 
-#include "arith/Fp.h"
 #include "base/interrupt.h"
-#include "base/output.h"
-#include "linalg/row_operations.h"
+#include "base/paranoid.h"
 #include "linalg/row_space.h"
-#include "points/ideal/artinian_forms.h"
-#include "points/record/consistency.h"
+#include "points/ring/border_relations.h"
 
 namespace zep::points {
 
 namespace {
-
-// The border form of a border monomial t is t - c, where c is its canonical form in R/(X_0), the
-// combination of members of O that it equals there.
 
 // Two border monomials P * x_a and P * x_b, divisible by the leading monomials of two Groebner
 // basis elements; P, the member of O at this position, times x_a * x_b is their least common
@@ -38,18 +31,18 @@ int last_larger_slot(const monom& s, const monom& t) {
   return slot;
 }
 
-std::vector<neighbours> neighbour_pairs(const scheme& X) {
+std::vector<neighbours> neighbour_pairs(const order_ideal& X) {
   std::vector<neighbours> pairs;
-  const int n = X.Ix->no_of_gens();
+  const int n = X.Ix.no_of_gens();
   for (int i = 0; i < n; ++i) {
     heed_interrupt();
-    const monom& s = X.Ix->lead(i);
+    const monom& s = X.Ix.lead(i);
     for (int j = i + 1; j < n; ++j) {
-      const monom& t = X.Ix->lead(j);
+      const monom& t = X.Ix.lead(j);
       monom P = lcm(s, t);
       const int a = last_larger_slot(s, t);
       const int b = last_larger_slot(t, s);
-      if (a < 0 || b < 0 || P.tot_deg() - 2 > X.sigma + 1) continue;
+      if (a < 0 || b < 0 || P.tot_deg() - 2 > X.H.sigma + 1) continue;
       P.set_exp(a, P.exp(a) - 1);
       P.set_exp(b, P.exp(b) - 1);
       const int position = is_el_OO(X, P);
@@ -59,92 +52,87 @@ std::vector<neighbours> neighbour_pairs(const scheme& X) {
   return pairs;
 }
 
-// The constants with which the Groebner basis elements occur in things of the vanishing ideal. In a
-// thing of degree d only elements of degree d can, so it has a row over these, which stand
-// together:
-//
-//     row[i]  is the constant of basis element  begin(d) + i,   0 <= i < size(d)
-class constants_of_relations {
+// The border of the Artinian reduction, as border_relations wants it. The border form of b is B[b]
+// minus its canonical form.
+class artinian_border {
  public:
-  explicit constants_of_relations(const scheme& X) : X_(X), forms_(*X.Can_Lf) {
-    int g = 0;
-    for (int d = 0; d <= degrees(); ++d) {
-      begin_.push_back(g);
-      while (g < X.Ix->no_of_gens() && X.Ix->lead(g).tot_deg() == d) ++g;
-    }
-    of_border_.reserve(X.B.size());
-    for (int b = 0; b < no_of_border(X); ++b) {
-      heed_interrupt();
-      of_border_.push_back(border_row(b));
-    }
+  artinian_border(const order_ideal& X, const canonical_forms& forms) : X_(X), forms_(forms) {}
+
+  std::pair<int, int> origin(int b) const {
+    const auto [border, variable] = forms_.origin_of(b);
+    return {border, variable};
   }
 
-  // Every degree is smaller: members of O reach degree sigma + 1, relations two more.
-  int degrees() const { return X_.sigma + 4; }
-
-  int begin(int d) const { return begin_[d]; }
-  int size(int d) const { return begin(d + 1) - begin(d); }
-
-  // The degree of x_b * (border form of P x_a) - x_a * (border form of P x_b).
-  int degree(const neighbours& pair) const { return X_.O[pair.position].tot_deg() + 2; }
-
-  // The constants in that relation. The border forms' own monomials cancel, and what is left is
-  // made of canonical forms.
-  std::vector<Fp8> relation(const neighbours& pair) const {
-    std::vector<Fp8> row(size(degree(pair)));
-    add_products(row, forms_.times(pair.position, pair.a).position, pair.b, Fp8(1));
-    add_products(row, forms_.times(pair.position, pair.b).position, pair.a, -Fp8(1));
-    return row;
+  template <class Use>
+  void for_each_border_product(int b, int v, Use use) const {
+    forms_.for_each_product(forms_.form(b), X_.B[b].tot_deg(), v,
+                            [&](Fp8 c, canonical_forms::product p) {
+                              if (!p.in_O) use(c, p.position);
+                            });
   }
 
  private:
-  // The constants in the border form B[b] - Can_Lf(B[b]), written with basis elements.
-  std::vector<Fp8> border_row(int b) const {
-    const monom& t = X_.B[b];
-    const int d = t.tot_deg();
-    std::vector<Fp8> row(size(d));
-    if (const int g = is_el_G(X_, t); g >= 0) {
-      row[g - begin(d)] = 1;
-    } else if (const auto [border, variable] = forms_.origin_of(b); border >= 0) {
-      add_products(row, border, variable, Fp8(1));
-    }
-    return row;
-  }
-
-  // Adds c times the constants of the border monomials in x_v * Can_Lf(B[b]).
-  void add_products(std::vector<Fp8>& row, int b, int v, Fp8 c) const {
-    if (row.empty()) return;
-    const int d = X_.B[b].tot_deg();
-    forms_.for_each_product(forms_.form(b), d, v, [&](Fp8 coef, canonical_forms::product p) {
-      if (!p.in_O) axpy(row.data(), of_border_[p.position].data(), c * coef, row.size());
-    });
-  }
-
-  const scheme& X_;
+  const order_ideal& X_;
   const canonical_forms& forms_;
-  // First basis element of each degree, with one entry behind the last degree that ends it.
-  std::vector<int> begin_;
-  std::vector<std::vector<Fp8>> of_border_;
 };
 
-// The relations' constants, one row for each pair of neighbours, but dependent rows left out.
-matrix relation_matrix(const scheme& X, const std::vector<neighbours>& pairs) {
-  const constants_of_relations constants(X);
-  const int degrees = constants.degrees();
-  std::vector<row_space> relations;
-  relations.reserve(degrees);
-  for (int d = 0; d < degrees; ++d) relations.emplace_back(constants.size(d));
+// The part of an ascending list that has one degree, from `begin` up to `end`.
+struct stretch {
+  int begin;
+  int end;
+};
+
+// The monomials monomial(0), monomial(1), ... below n of degree d, from `begin` on.
+template <class Monomial>
+stretch of_degree(int d, int begin, int n, Monomial monomial) {
+  int end = begin;
+  while (end < n && monomial(end).tot_deg() == d) ++end;
+  return {begin, end};
+}
+
+// The constants in the relations of neighbours of one degree, over the basis elements of the
+// degree.
+row_space constants_of_degree(const order_ideal& X, const canonical_forms& forms, stretch elements,
+                              stretch border, const std::vector<neighbours>& pairs) {
+  std::vector<int> leading;
+  for (int g = elements.begin; g < elements.end; ++g) leading.push_back(is_el_B(X, X.Ix.lead(g)));
+  const artinian_border B(X, forms);
+  const border_relations relations(B, leading, border.begin, border.end);
+  row_space constants(elements.end - elements.begin);
   for (const neighbours& pair : pairs) {
-    relations[constants.degree(pair)].add(constants.relation(pair));
+    constants.add(relations.relation(forms.times(pair.position, pair.a).position, pair.b,
+                                     forms.times(pair.position, pair.b).position, pair.a));
   }
+  return constants;
+}
+
+// The relations' constants, one row for each pair of neighbours, but dependent rows left out. In a
+// thing of degree d only elements of degree d occur with constants, and these stand together.
+matrix relation_matrix(const order_ideal& X, const canonical_forms& forms,
+                       const std::vector<neighbours>& pairs) {
+  const int n = X.Ix.no_of_gens();
+  // Members of O reach degree sigma + 1, relations two more.
+  std::vector<std::vector<neighbours>> by_degree(X.H.sigma + 4);
+  for (const neighbours& pair : pairs) {
+    by_degree[X.O[pair.position].tot_deg() + 2].push_back(pair);
+  }
+  std::vector<std::pair<int, matrix>> blocks;
   int rank = 0;
-  for (const row_space& of_degree : relations) rank += of_degree.rank();
-  matrix N(X.Ix->no_of_gens(), rank);
-  int row = 0;
-  for (int d = 0; d < degrees; ++d) {
-    const matrix basis = relations[d].basis();
-    for (int i = 0; i < basis.rows(); ++i) {
-      std::copy(basis.row(i).begin(), basis.row(i).end(), N[row++] + constants.begin(d));
+  stretch border{0, 0};
+  for (stretch elements{0, 0}; elements.end < n;) {
+    const int d = X.Ix.lead(elements.end).tot_deg();
+    elements = of_degree(d, elements.end, n, [&](int g) { return X.Ix.lead(g); });
+    while (X.B[border.end].tot_deg() < d) ++border.end;
+    border = of_degree(d, border.end, X.no_of_border(), [&](int b) { return X.B[b]; });
+    const row_space constants = constants_of_degree(X, forms, elements, border, by_degree[d]);
+    rank += constants.rank();
+    blocks.emplace_back(elements.begin, constants.basis());
+  }
+  matrix N(n, rank);
+  int next = 0;
+  for (const auto& [first, block] : blocks) {
+    for (int i = 0; i < block.rows(); ++i) {
+      std::copy(block[i].begin(), block[i].end(), N[next++].begin() + first);
     }
   }
   return N;
@@ -152,10 +140,10 @@ matrix relation_matrix(const scheme& X, const std::vector<neighbours>& pairs) {
 
 // The basis elements that make a minimal system, ascending by degree; of equal degrees those come
 // first that stand first, but each choice moves the last candidate into the place of the chosen.
-std::vector<int> minimal_elements(const scheme& X) {
-  const int n = X.Ix->no_of_gens();
+std::vector<int> minimal_elements(const order_ideal& X, const canonical_forms& forms) {
+  const int n = X.Ix.no_of_gens();
   const std::vector<neighbours> pairs = neighbour_pairs(X);
-  matrix N = relation_matrix(X, pairs);
+  matrix N = relation_matrix(X, forms, pairs);
   std::vector<int> columns = identity_order(n);
   std::vector<int> rows = identity_order(N.rows());
   // Dependent rows are not there, but they count: the number of steps decides which columns are
@@ -166,7 +154,7 @@ std::vector<int> minimal_elements(const scheme& X) {
   while (!candidates.empty()) {
     heed_interrupt();
     const auto least = std::min_element(candidates.begin(), candidates.end(), [&](int g, int h) {
-      return X.Ix->lead(g).tot_deg() < X.Ix->lead(h).tot_deg();
+      return X.Ix.lead(g).tot_deg() < X.Ix.lead(h).tot_deg();
     });
     chosen.push_back(*least);
     *least = candidates.back();
@@ -177,44 +165,20 @@ std::vector<int> minimal_elements(const scheme& X) {
 
 }  // namespace
 
-void min_Ix(scheme& X) {
-  if (X.min_Ix) return;
-  need_Can_Lf(X);
-  const std::vector<int> chosen = minimal_elements(X);
+ideal min_Ix(const order_ideal& X, const canonical_forms& forms) {
+  const std::vector<int> chosen = minimal_elements(X, forms);
   ideal generators(static_cast<int>(chosen.size()));
   for (std::size_t m = 0; m < chosen.size(); ++m) {
     heed_interrupt();
     hom(generators.gen[m], groebner_element(X, chosen[m]));
   }
-  X.min_Ix = std::move(generators);
-  ensure_consistent(X);
-}
-
-void disp_min(std::ostream& out, scheme& X) {
-  min_Ix(X);
-  out << "a minimal basis for the projective vanishing ideal consists of the following\n"
-      << X.min_Ix->no_of_gens() << " polynomials :\n";
-  int m = 0;
-  for (const polynomial& f : X.min_Ix->gen) {
-    heed_interrupt();
-    counter = len(++m) + 6;
-    out << "min" << m << " = " << f << "\n";
-  }
-  out << Line;
-}
-
-void deg_min(std::ostream& out, scheme& X) {
-  min_Ix(X);
-  out << "the degrees of the minimal generators of the projective vanishing ideal are:\n";
-  const std::vector<polynomial>& gen = X.min_Ix->gen;
-  const auto degree = [](const polynomial& f) { return f.term(0).tot_deg(); };
-  for (auto group = gen.begin(); group != gen.end();) {
-    const auto next = std::find_if(
-        group, gen.end(), [&](const polynomial& f) { return degree(f) != degree(*group); });
-    out << "deg " << degree(*group) << " : " << next - group << " generator(s)\n";
-    group = next;
-  }
-  out << Line;
+  ensure("minimal generators ascend by degree", [&] {
+    return std::is_sorted(generators.gen.begin(), generators.gen.end(),
+                          [](const polynomial& f, const polynomial& g) {
+                            return f.term(0).tot_deg() < g.term(0).tot_deg();
+                          });
+  });
+  return generators;
 }
 
 }  // namespace zep::points

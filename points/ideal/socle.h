@@ -1,19 +1,16 @@
-// Socle of the Artinian reduction, and type.
+// Socle of the Artinian reduction.
 #pragma once
 
-#include <iosfwd>
-
-#include "points/record/scheme.h"
+#include "points/ring/canonical_forms.h"
+#include "points/ring/ideal.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
 // Finds homogeneous generators of the socle of R/(X_0), ascending: all members of O of top degree,
 // and in every other degree the elements that all variables annihilate. Their number is the type of
-// X (Bruns, Herzog: Cohen-Macaulay rings, section 1.2). Runs once; makes what it needs.
-void socle(scheme& X);
-
-// Prints the generators, or their number, and Line.
-void disp_socle(std::ostream& out, scheme& X);
-void typ(std::ostream& out, scheme& X);
+// X, 1 exactly when X is arithmetically Gorenstein (Bruns, Herzog: Cohen-Macaulay rings, sections
+// 1.2 and 3.2). `R` are the canonical forms of Can_Lf(X).
+ideal socle(const order_ideal& X, const canonical_forms& R);
 
 }  // namespace zep::points

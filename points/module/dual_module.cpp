@@ -22,7 +22,7 @@ dual_module::dual_module(const std::vector<monom>& O, const canonical_forms& R,
     : O_(O),
       R_(R),
       candidates_(std::move(candidates)),
-      dim_(arith::dim),
+      dim_(dim),
       rows_(R.no_of_members() + R.no_of_border(), R.no_of_members()) {
   set_owners();
   set_products();
@@ -112,19 +112,20 @@ void dual_module::set_row(int i) {
 // The values of member i at the border monomials of O follow from those.
 void dual_module::extend(int i) {
   const std::size_t first = begin(degree_of_member(i));
-  Fp8* const row = rows_[i];
+  const row_view values = rows_[i];
   for (int b = 0; b < R_.no_of_border(); ++b) {
-    const std::span<const Fp8> form = R_.form(b);
+    const const_row_view form = R_.form(b);
     if (form.size() <= first) continue;
-    row[no_of_members() + b] = dot(row + first, form.data() + first, form.size() - first);
+    values[no_of_members() + b] =
+        dot(values.subspan(first, form.size() - first), form.subspan(first));
   }
 }
 
-// Sets the row to the values of x_v * member i at the first so many members of O.
-void dual_module::multiply(Fp8* row, int i, int v, int members) const {
-  const Fp8* const values = rows_[i];
+// Sets a row to the values of x_v * member i at the first so many members of O.
+void dual_module::multiply(row_view to, int i, int v, int members) const {
+  const const_row_view values = rows_[i];
   const std::vector<int>& place = place_[v];
-  for (int j = begin(degree_of_member(i) - 1); j < members; ++j) row[j] = values[place[j]];
+  for (int j = begin(degree_of_member(i) - 1); j < members; ++j) to[j] = values[place[j]];
 }
 
 monom dual_module::factor(int i) const { return O_[candidate(owner(i))] / O_[i]; }
@@ -135,15 +136,15 @@ int dual_module::find(const monom& exponent, int owner) const {
 }
 
 // Member i is its projection and projections behind it.
-std::vector<Fp8> dual_module::canonical_form(int b, int members) const {
+row dual_module::canonical_form(int b, int members) const {
   heed_interrupt();
-  std::vector<Fp8> row(members);
-  multiply(row.data(), border(b).member, border(b).variable, members);
+  row form(members);
+  multiply(form, border(b).member, border(b).variable, members);
   for (int i = begin(degree(b)); i < members; ++i) {
     const std::size_t behind = i + 1;
-    axpy(row.data() + behind, rows_[i] + behind, -row[i], row.size() - behind);
+    axpy(row_view(form).subspan(behind), rows_[i].subspan(behind, members - behind), -form[i]);
   }
-  return row;
+  return form;
 }
 
 }  // namespace zep::points

@@ -74,7 +74,7 @@ class dual_module {
 
   // The canonical form of border element b, a row over the first `members` members; with
   // begin(degree(b) + 1) of them it is the form modulo X_0.
-  std::vector<Fp8> canonical_form(int b, int members) const;
+  row canonical_form(int b, int members) const;
 
  private:
   struct key {
@@ -94,7 +94,7 @@ class dual_module {
   void set_places();
   void set_row(int i);
   void extend(int i);
-  void multiply(Fp8* row, int i, int v, int members) const;
+  void multiply(row_view to, int i, int v, int members) const;
 
   const std::vector<monom>& O_;
   const canonical_forms& R_;

@@ -19,18 +19,16 @@ syzygies_of_degree rewritten(const dual_module& W, int d, std::vector<int> leadi
   syzygies_of_degree S{d, std::move(leading), matrix(n + W.no_of_members(), n)};
   for (int r = 0; r < n; ++r) {
     S.coefs[r][r] = 1;
-    const std::vector<Fp8> form = W.canonical_form(S.leading[r], W.no_of_members());
-    axpy(S.coefs[r] + n, form.data(), -Fp8(1), form.size());
+    axpy(S.coefs[r].subspan(n), W.canonical_form(S.leading[r], W.no_of_members()), -Fp8(1));
   }
   return S;
 }
 
 // Makes entry (r, column) 1 and the other entries of the column 0.
 void clear_column(matrix& m, int r, int column) {
-  const auto n = static_cast<std::size_t>(m.cols());
-  scale(m[r], Fp8(1) / m[r][column], n);
+  scale(m[r], Fp8(1) / m[r][column]);
   for (int i = 0; i < m.rows(); ++i) {
-    if (i != r) axpy(m[i], m[r], -m[i][column], n);
+    if (i != r) axpy(m[i], m[r], -m[i][column]);
   }
 }
 
@@ -63,7 +61,6 @@ std::vector<polynomial_row> generator_elimination::eliminate(syzygies_of_degree 
     clear_column(S.coefs, r, leads(S) + W_.candidate(a));
     eliminates[r] = a;
   }
-  const raised_dim projective;
   std::vector<polynomial_row> columns;
   for (int r = 0; r < n; ++r) {
     const int a = eliminates[r];
@@ -94,28 +91,31 @@ int generator_elimination::constant_at(const syzygies_of_degree& S, int r) const
 // Row r without the term of the candidate that is left out (none if -1).
 polynomial_row generator_elimination::column(const syzygies_of_degree& S, int r,
                                              int left_out) const {
-  const Fp8* const row = S.coefs[r];
+  const const_row_view coefs = S.coefs[r];
   std::vector<polynomial_row::term> sum;
   for (int k = 0; k < leads(S); ++k) {
-    if (row[k] == 0) continue;
+    if (coefs[k] == 0) continue;
     heed_interrupt();
     const auto& [exponent, owner, member, v] = W_.border(S.leading[k]);
-    add_multiple(sum, W_.factor(member) * variable(v), owner, row[k]);
+    monom factor = W_.factor(member) * variable(v);
+    prj(factor);
+    add_multiple(sum, factor, owner, coefs[k]);
   }
   for (int i = W_.begin(S.degree); i < W_.no_of_members(); ++i) {
-    const Fp8 c = row[leads(S) + i];
+    const Fp8 c = coefs[leads(S) + i];
     if (c == 0) continue;
     heed_interrupt();
     const int a = W_.owner(i);
     if (a == left_out && i == W_.candidate(a)) continue;
     monom factor = W_.factor(i);
+    prj(factor);
     factor.set_exp(proj - 1, W_.degree_of_member(i) - S.degree);
     add_multiple(sum, factor, a, c);
   }
   return {W_.no_of_candidates(), sum};
 }
 
-// Adds c * factor * candidate.
+// Adds c * factor * candidate, for a projective factor.
 void generator_elimination::add_multiple(std::vector<polynomial_row::term>& sum,
                                          const monom& factor, int candidate, Fp8 c) const {
   if (!is_eliminated(candidate)) {

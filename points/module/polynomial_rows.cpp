@@ -7,7 +7,6 @@
 
 #include "arith/ordering.h"
 #include "base/interrupt.h"
-#include "points/strand/form_vectors.h"
 
 namespace zep::points {
 
@@ -57,12 +56,6 @@ std::vector<term> terms_of(const std::vector<polynomial>& entries) {
   return terms;
 }
 
-// The leading coefficient of entry j, 0 for a zero entry.
-Fp8 leading_coefficient(const polynomial_row& row, int j) {
-  const term* const lead = row.leading_term(j);
-  return lead != nullptr ? lead->c : Fp8(0);
-}
-
 }  // namespace
 
 polynomial_row::polynomial_row(int cols, const std::vector<term>& terms)
@@ -96,47 +89,9 @@ std::vector<polynomial> polynomial_row::entries() const {
   return entries;
 }
 
-polynomial polynomial_row::entry(int j) const { return entries()[j]; }
-
-const polynomial_row::term* polynomial_row::leading_term(int j) const {
-  const auto lead =
-      std::find_if(terms_.begin(), terms_.end(), [j](const term& t) { return t.column == j; });
-  return lead != terms_.end() ? &*lead : nullptr;
-}
-
 void polynomial_row::operator*=(Fp8 c) {
   for (term& t : terms_) t.c *= c;
   std::erase_if(terms_, [](const term& t) { return t.c == 0; });
-}
-
-void polynomial_row::subtract(Fp8 c, const polynomial_row& b) {
-  std::vector<term> all = terms_;
-  for (const term& t : b.terms_) all.push_back({t.m, t.column, -(c * t.c)});
-  *this = polynomial_row(cols_, all);
-}
-
-void norm(polynomial_matrix& A, int i, int jj) {
-  polynomial_row& row = A[i];
-  row *= Fp8(1) / leading_coefficient(row, jj);
-}
-
-void reduce_c(polynomial_matrix& A, int k, int i, int jj) {
-  polynomial_row& row = A[i];
-  row.subtract(leading_coefficient(row, jj), A[k]);
-}
-
-std::vector<int> interreduce(polynomial_matrix& A) {
-  std::vector<std::vector<polynomial>> entries;
-  entries.reserve(A.size());
-  for (const polynomial_row& row : A) entries.push_back(row.entries());
-  form_vectors vectors = vectors_of(std::move(entries), A.empty() ? 0 : A.front().cols());
-  vectors.interreduce();
-  std::vector<int> Lt;
-  for (int i = 0; i < vectors.count(); ++i) {
-    A[i] = polynomial_row(vectors.components(i));
-    Lt.push_back(vectors.position(i));
-  }
-  return Lt;
 }
 
 }  // namespace zep::points

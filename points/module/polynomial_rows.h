@@ -34,36 +34,12 @@ class polynomial_row {
   // All entries.
   std::vector<polynomial> entries() const;
 
-  // For a column j, 0 <= j < cols():
-  // Entry j.
-  polynomial entry(int j) const;
-  // The leading term of entry j; nullptr for zero.
-  const term* leading_term(int j) const;
-
   // Multiplies every entry. In a composite characteristic that may lose terms.
   void operator*=(Fp8 c);
-  // Subtracts c * b from the row; b has as many columns.
-  void subtract(Fp8 c, const polynomial_row& b);
 
  private:
   int cols_;
   std::vector<term> terms_;
 };
-
-// Rows with a common number of columns.
-using polynomial_matrix = std::vector<polynomial_row>;
-
-// Divides row i by the leading coefficient of its entry jj. The row becomes zero when that has no
-// inverse: the entry is zero, or the characteristic composite.
-void norm(polynomial_matrix& A, int i, int jj);
-
-// Subtracts row k from row i, multiplied by the leading coefficient of entry jj of row i. With
-// row k normed at jj, and equal leading monomials there, that monomial vanishes.
-void reduce_c(polynomial_matrix& A, int k, int i, int jj);
-
-// Brings A to triangular form, row by row: reduces a row by the rows before it until its pivot is
-// the pivot of none of them, and norms it there. Rows before are not changed. Returns the column of
-// every row's pivot, -1 for a row that is zero in the end.
-std::vector<int> interreduce(polynomial_matrix& A);
 
 }  // namespace zep::points

@@ -12,16 +12,16 @@ namespace zep::points {
 namespace {
 
 // True for the monomials 1 that only fill O up (repeated points).
-bool is_filling(const scheme& X, int i) { return is_el_OO(X, X.O[i]) != i; }
+bool is_filling(const order_ideal& X, int i) { return is_el_OO(X, X.O[i]) != i; }
 
-bool is_maximal(const scheme& X, const monom& t) {
+bool is_maximal(const order_ideal& X, const monom& t) {
   for (int v = 0; v < dim; ++v) {
     if (is_el_OO(X, t * variable(v)) >= 0) return false;
   }
   return true;
 }
 
-std::vector<syzygy_monomial> unpruned(const scheme& X, const std::vector<int>& candidates) {
+std::vector<syzygy_monomial> unpruned(const order_ideal& X, const std::vector<int>& candidates) {
   const int k = static_cast<int>(candidates.size());
   const auto t = [&](int a) -> const monom& { return X.O[candidates[a]]; };
   std::vector<syzygy_monomial> all;
@@ -61,16 +61,17 @@ std::vector<int> minimal_ones(const std::vector<syzygy_monomial>& all, std::vect
 
 }  // namespace
 
-std::vector<int> candidate_projections(const scheme& X) {
+std::vector<int> candidate_projections(const order_ideal& X) {
   std::vector<int> candidates;
-  for (int i = 0; i < X.s; ++i) {
+  for (int i = 0; i < X.s(); ++i) {
     heed_interrupt();
     if (!is_filling(X, i) && is_maximal(X, X.O[i])) candidates.push_back(i);
   }
   return candidates;
 }
 
-std::vector<syzygy_monomial> syzygy_monomials(const scheme& X, const std::vector<int>& candidates) {
+std::vector<syzygy_monomial> syzygy_monomials(const order_ideal& X,
+                                              const std::vector<int>& candidates) {
   const std::vector<syzygy_monomial> all = unpruned(X, candidates);
   std::vector<std::vector<int>> owned(candidates.size());
   for (std::size_t i = 0; i < all.size(); ++i) {
@@ -88,7 +89,8 @@ std::vector<syzygy_monomial> syzygy_monomials(const scheme& X, const std::vector
   return found;
 }
 
-std::vector<monom> needed_monomials(const scheme& X, const std::vector<syzygy_monomial>& syzygies) {
+std::vector<monom> needed_monomials(const order_ideal& X,
+                                    const std::vector<syzygy_monomial>& syzygies) {
   using monom_set = std::unordered_set<monom, monom_hash, monom_equal>;
   monom_set needed;
   const auto need = [&](const monom& t) {

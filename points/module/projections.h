@@ -7,13 +7,12 @@
 
 #include <vector>
 
-#include "points/record/scheme.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
 // The positions in O of its maximal monomials (no product with a variable is in O), ascending.
-// Requires bu_mo.
-std::vector<int> candidate_projections(const scheme& X);
+std::vector<int> candidate_projections(const order_ideal& X);
 
 // T * pr_(t_a) is a combination of other multiples of candidates: a syzygy with T at candidate a,
 // the owner. The owner is an index of the list of candidates.
@@ -26,10 +25,12 @@ struct syzygy_monomial {
 // a < b the monomial t_a / gcd(t_a, t_b) of a (both projections become that to the gcd), then for
 // each candidate the pure powers that just don't divide t_a (they kill pr_(t_a) modulo X_0). Only
 // those stay that no other of the same owner divides; of equal ones the last stays.
-std::vector<syzygy_monomial> syzygy_monomials(const scheme& X, const std::vector<int>& candidates);
+std::vector<syzygy_monomial> syzygy_monomials(const order_ideal& X,
+                                              const std::vector<int>& candidates);
 
 // The monomials outside O whose canonical forms enter the syzygies, ascending: products of two
 // members of O, and products T * t of syzygy monomials outside O with members.
-std::vector<monom> needed_monomials(const scheme& X, const std::vector<syzygy_monomial>& syzygies);
+std::vector<monom> needed_monomials(const order_ideal& X,
+                                    const std::vector<syzygy_monomial>& syzygies);
 
 }  // namespace zep::points

@@ -4,14 +4,12 @@
 #include <utility>
 
 #include "base/interrupt.h"
-#include "linalg/row_operations.h"
 #include "linalg/row_space.h"
+#include "points/ring/border_relations.h"
 
 namespace zep::points {
 
 namespace {
-
-using row = std::vector<Fp8>;
 
 // The border elements modulo X_0 and their degrees.
 class border_forms {
@@ -36,50 +34,6 @@ class border_forms {
     }
   }
 
- private:
-  const dual_module& W_;
-  std::vector<row> forms_;
-};
-
-// The constants of one degree: row[i] belongs to the syzygy with leading[i], of this degree.
-class constants_of_degree {
- public:
-  // The border elements of the degree are those from first_border to end_border.
-  constants_of_degree(const dual_module& W, const border_forms& forms,
-                      const std::vector<int>& leading, int first_border, int end_border)
-      : W_(W), forms_(forms), size_(leading.size()), first_border_(first_border) {
-    const std::size_t size = end_border - first_border;
-    syzygy_.assign(size, -1);
-    for (std::size_t i = 0; i < size_; ++i) {
-      syzygy_[leading[i] - first_border] = static_cast<int>(i);
-    }
-    of_border_.reserve(size);
-    for (int b = first_border; b < end_border; ++b) {
-      heed_interrupt();
-      of_border_.push_back(border_row(b));
-    }
-  }
-
-  // The constants in x_w * (x_v * P) - x_v * (x_w * P), P a member that both take to the border.
-  row relation(int P, int v, int w) const {
-    row sum(size_);
-    add_products(sum, W_.times(P, v).position, w, Fp8(1));
-    add_products(sum, W_.times(P, w).position, v, -Fp8(1));
-    return sum;
-  }
-
- private:
-  // The constants with which the syzygies express border element b minus its canonical form.
-  row border_row(int b) const {
-    row sum(size_);
-    if (const int i = syzygy_[b - first_border_]; i >= 0) {
-      sum[i] = 1;
-    } else if (const auto [below, v] = origin(b); below >= 0) {
-      add_products(sum, below, v, Fp8(1));
-    }
-    return sum;
-  }
-
   // A border element and a variable whose product is border element b; -1 if there is none.
   std::pair<int, int> origin(int b) const {
     const auto& [exponent, owner, member, variable_taken] = W_.border(b);
@@ -92,25 +46,14 @@ class constants_of_degree {
     return {-1, -1};
   }
 
-  // Adds c times the constants of x_v * (form of border element b).
-  void add_products(row& sum, int b, int v, Fp8 c) const {
-    forms_.for_each_border_product(b, v, [&](Fp8 coef, int position) {
-      axpy(sum.data(), of_border_[position - first_border_].data(), c * coef, sum.size());
-    });
-  }
-
+ private:
   const dual_module& W_;
-  const border_forms& forms_;
-  std::size_t size_;
-  int first_border_;
-  // The syzygy that border element first_border + i leads, or -1.
-  std::vector<int> syzygy_;
-  std::vector<row> of_border_;
+  std::vector<row> forms_;
 };
 
 // The relations' constants in degree d.
-row_space relations_of_degree(const dual_module& W, const constants_of_degree& constants, int size,
-                              int d) {
+row_space relations_of_degree(const dual_module& W, const border_relations<border_forms>& constants,
+                              int size, int d) {
   row_space relations(size);
   for (int P = W.begin(d + 2); P < W.begin(d + 3); ++P) {
     for (int v = 0; v < dim; ++v) {
@@ -118,7 +61,7 @@ row_space relations_of_degree(const dual_module& W, const constants_of_degree& c
       for (int w = v + 1; w < dim; ++w) {
         if (W.times(P, w).is_member) continue;
         if (relations.rank() == size) return relations;
-        relations.add(constants.relation(P, v, w));
+        relations.add(constants.relation(W.times(P, v).position, w, W.times(P, w).position, v));
       }
     }
   }
@@ -142,7 +85,7 @@ std::vector<bool> superfluous_syzygies(const dual_module& W, const std::vector<i
       indices.push_back(i);
       of_degree.push_back(leading[i]);
     }
-    const constants_of_degree constants(W, forms, of_degree, first, end);
+    const border_relations constants(forms, of_degree, first, end);
     const row_space relations =
         relations_of_degree(W, constants, static_cast<int>(of_degree.size()), d);
     for (const std::size_t pivot : relations.pivots()) superfluous[indices[pivot]] = true;

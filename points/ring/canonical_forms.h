@@ -1,11 +1,10 @@
 // Multiplication in the coordinate ring and in its Artinian reduction.
 #pragma once
 
-#include <span>
 #include <vector>
 
 #include "arith/Fp8.h"
-#include "points/ring/groebner_basis.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
@@ -23,11 +22,8 @@ enum class quotient { R, artinian };
 // Monomials 1 that only fill O up behind the true ones (repeated points) take no part.
 class canonical_forms {
  public:
-  // From the order ideal O, its border B, both with their indices, and the reduced Groebner basis.
-  // Keeps none of them.
-  canonical_forms(quotient ring, const std::vector<monom>& O, const monom_index& O_index,
-                  const std::vector<monom>& B, const monom_index& B_index,
-                  const groebner_basis& Ix);
+  // Keeps nothing of X.
+  canonical_forms(quotient ring, const order_ideal& X);
 
   // The largest degree with members in O; -1 without points.
   int top_degree() const { return static_cast<int>(begin_.size()) - 2; }
@@ -52,7 +48,7 @@ class canonical_forms {
   int no_of_border() const { return static_cast<int>(forms_.size()); }
 
   // The canonical form of border monomial b, a row of its degree.
-  std::span<const Fp8> form(int b) const { return forms_[b]; }
+  const_row_view form(int b) const { return forms_[b]; }
 
   // The border monomial that border monomial b was reached from, times which variable; `border` is
   // -1 for one that leads a Groebner basis element and was reached from nothing.
@@ -62,29 +58,28 @@ class canonical_forms {
   };
   origin origin_of(int b) const { return origins_[b]; }
 
-  // Calls use(coefficient, product) for every term of x_v * row, a row of degree d.
+  // Calls use(coefficient, product) for every term of x_v * f, f a row of degree d.
   template <class Use>
-  void for_each_product(std::span<const Fp8> row, int d, int v, Use use) const {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      if (row[i] != 0) use(row[i], times(first(d) + static_cast<int>(i), v));
+  void for_each_product(const_row_view f, int d, int v, Use use) const {
+    for (std::size_t i = 0; i < f.size(); ++i) {
+      if (f[i] != 0) use(f[i], times(first(d) + static_cast<int>(i), v));
     }
   }
 
-  // Adds x_v * row, for a row of degree d, to `sum`, a row of degree d + 1.
-  void add_product(std::span<Fp8> sum, std::span<const Fp8> row, int d, int v) const;
+  // Adds x_v * f, for a row f of degree d, to `sum`, a row of degree d + 1.
+  void add_product(row_view sum, const_row_view f, int d, int v) const;
 
  private:
   void set_degrees(const std::vector<monom>& O);
-  void set_table(const std::vector<monom>& O, const monom_index& O_index,
-                 const monom_index& B_index);
-  void add_form(const monom& t, const monom_index& B_index, const groebner_basis& Ix);
+  void set_table(const order_ideal& X);
+  void add_form(const order_ideal& X, const monom& t);
 
   quotient ring_;
   int dim_;
   // begin_[d], with one entry behind the top degree that ends it.
   std::vector<int> begin_;
   std::vector<product> table_;
-  std::vector<std::vector<Fp8>> forms_;
+  std::vector<row> forms_;
   std::vector<origin> origins_;
 };
 

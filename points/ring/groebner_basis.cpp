@@ -6,33 +6,33 @@ namespace zep::points {
 
 namespace {
 
-// Appends the terms of the row, greatest first.
-void append_terms(std::vector<monom>& term, std::vector<Fp8>& coef, std::span<const Fp8> row,
+// Appends the terms of the sum, greatest first.
+void append_terms(std::vector<monom>& term, std::vector<Fp8>& coef, const_row_view coefs,
                   const std::vector<monom>& O) {
-  for (std::size_t i = row.size(); i-- > 0;) {
-    if (row[i] == 0) continue;
+  for (std::size_t i = coefs.size(); i-- > 0;) {
+    if (coefs[i] == 0) continue;
     term.push_back(O[i]);
-    coef.push_back(row[i]);
+    coef.push_back(coefs[i]);
   }
 }
 
 }  // namespace
 
-polynomial combination(std::span<const Fp8> row, const std::vector<monom>& O) {
+polynomial combination(const_row_view coefs, const std::vector<monom>& O) {
   std::vector<monom> term;
   std::vector<Fp8> coef;
-  append_terms(term, coef, row, O);
+  append_terms(term, coef, coefs, O);
   return {std::move(term), std::move(coef)};
 }
 
-int leading_position(std::span<const Fp8> row) {
-  for (std::size_t i = row.size(); i-- > 0;) {
-    if (row[i] != 0) return static_cast<int>(i);
+int leading_position(const_row_view coefs) {
+  for (std::size_t i = coefs.size(); i-- > 0;) {
+    if (coefs[i] != 0) return static_cast<int>(i);
   }
   return 0;
 }
 
-groebner_basis::groebner_basis(std::vector<monom> leads, std::vector<std::vector<Fp8>> tails)
+groebner_basis::groebner_basis(std::vector<monom> leads, std::vector<row> tails)
     : leads_(std::move(leads)), tails_(std::move(tails)), index_(leads_) {}
 
 polynomial groebner_basis::gen(int g, const std::vector<monom>& O) const {

@@ -5,26 +5,26 @@
 // or handed on.
 #pragma once
 
-#include <span>
 #include <vector>
 
 #include "arith/polynomial.h"
+#include "linalg/row.h"
 #include "points/ring/monom_index.h"
 
 namespace zep::points {
 
-// The sum of row[i] * O[i]. The row may be shorter than O.
-polynomial combination(std::span<const Fp8> row, const std::vector<monom>& O);
+// The sum of coefs[i] * O[i]. The row may be shorter than O.
+polynomial combination(const_row_view coefs, const std::vector<monom>& O);
 
 // Position of the leading monomial in O of the row's polynomial; 0 when that is zero.
-int leading_position(std::span<const Fp8> row);
+int leading_position(const_row_view coefs);
 
 // A reduced Groebner basis whose elements are a monic leading monomial plus a tail over O: the
 // elements, in ascending order of leading monomials.
 class groebner_basis {
  public:
   // leads[g] leads element g, tails[g] are the coefficients of its tail over O, not longer than O.
-  groebner_basis(std::vector<monom> leads, std::vector<std::vector<Fp8>> tails);
+  groebner_basis(std::vector<monom> leads, std::vector<row> tails);
 
   int no_of_gens() const { return static_cast<int>(leads_.size()); }
 
@@ -33,7 +33,7 @@ class groebner_basis {
 
   // The coefficients over O of element g without its leading monomial, up to the last member of O
   // below that monomial.
-  std::span<const Fp8> tail(int g) const { return tails_[g]; }
+  const_row_view tail(int g) const { return tails_[g]; }
 
   // Element g.
   polynomial gen(int g, const std::vector<monom>& O) const;
@@ -43,7 +43,7 @@ class groebner_basis {
 
  private:
   std::vector<monom> leads_;
-  std::vector<std::vector<Fp8>> tails_;
+  std::vector<row> tails_;
   monom_index index_;
 };
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <iosfwd>
 #include <vector>
 
 #include "arith/polynomial.h"
@@ -18,8 +17,5 @@ struct ideal {
 
   std::vector<polynomial> gen;
 };
-
-// Prints every generator on a line of its own.
-std::ostream& operator<<(std::ostream& out, const ideal& I);
 
 }  // namespace zep::points

@@ -71,10 +71,9 @@ std::vector<polynomial> form_vectors::components(int i) const {
 }
 
 std::vector<monom> projective_variables() {
-  const raised_dim projective;
   std::vector<monom> variables;
-  variables.reserve(dim);
-  for (int v = 0; v < dim; ++v) variables.push_back(variable(v));
+  variables.reserve(proj);
+  for (int v = 0; v < proj; ++v) variables.push_back(projective_variable(v));
   return variables;
 }
 
@@ -85,17 +84,17 @@ form_vectors vectors_of(std::vector<std::vector<polynomial>> components, int ran
   for (const auto& [m, number] : numbers) monomials.push_back(m);
   std::vector<compact_row> vectors;
   vectors.reserve(components.size());
-  std::vector<Fp8> row(monomials.size() * rank);
+  row all(monomials.size() * rank);
   for (std::vector<polynomial>& vector : components) {
     heed_interrupt();
-    std::fill(row.begin(), row.end(), Fp8(0));
+    std::fill(all.begin(), all.end(), Fp8(0));
     for (int k = 0; k < rank; ++k) {
       const polynomial& f = vector[k];
       for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
-        row[static_cast<std::size_t>(numbers.at(f.term(i))) * rank + k] = f.coef(i);
+        all[static_cast<std::size_t>(numbers.at(f.term(i))) * rank + k] = f.coef(i);
       }
     }
-    vectors.emplace_back(row);
+    vectors.emplace_back(all);
     vector = {};
   }
   return {std::move(monomials), rank, std::move(vectors)};

@@ -10,12 +10,13 @@ namespace {
 
 enum class zero_vectors { keep, drop };
 
-// The vectors are those of the given level, ready to be reported.
-void strand(form_vectors vectors, int level, zero_vectors zeros, const level_report& report) {
-  while (report(level, vectors)) {
+// The vectors are those of the given level, ready to be visited.
+void strand(form_vectors vectors, int level, zero_vectors zeros, reporter& to,
+            const level_visitor& visit) {
+  while (visit(level, vectors)) {
     const std::vector<linear_pair> pairs =
         level == 0 ? pairs_of_generators(vectors) : pairs_of_linear_vectors(vectors);
-    vectors = linear_syzygies(vectors, pairs);
+    vectors = linear_syzygies(vectors, pairs, to);
     if (zeros == zero_vectors::drop) vectors.drop_zero_vectors();
     if (vectors.count() == 0) return;
     vectors.interreduce();
@@ -25,13 +26,13 @@ void strand(form_vectors vectors, int level, zero_vectors zeros, const level_rep
 
 }  // namespace
 
-void strand_of_generators(form_vectors generators, const level_report& report) {
-  strand(std::move(generators), 0, zero_vectors::keep, report);
+void strand_of_generators(form_vectors generators, reporter& to, const level_visitor& visit) {
+  strand(std::move(generators), 0, zero_vectors::keep, to, visit);
 }
 
-void strand_of_relations(form_vectors relations, const level_report& report) {
+void strand_of_relations(form_vectors relations, reporter& to, const level_visitor& visit) {
   relations.interreduce();
-  strand(std::move(relations), 1, zero_vectors::drop, report);
+  strand(std::move(relations), 1, zero_vectors::drop, to, visit);
 }
 
 }  // namespace zep::points

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
-#include <iostream>
 #include <numeric>
 #include <optional>
 #include <utility>
@@ -11,7 +10,6 @@
 #include "arith/ordering.h"
 #include "arith/ring.h"
 #include "base/interrupt.h"
-#include "base/reporter.h"
 #include "linalg/row_operations.h"
 
 namespace zep::points {
@@ -66,7 +64,7 @@ class product_numbers {
 // Reduces the differences of pairs, one after the other.
 class pair_reduction {
  public:
-  explicit pair_reduction(const form_vectors& G);
+  pair_reduction(const form_vectors& G, reporter& to);
 
   // The syzygy of the pair; zero if its difference leaves something.
   compact_row syzygy(const linear_pair& pair);
@@ -89,6 +87,7 @@ class pair_reduction {
   void keep(std::size_t pivot);
 
   const form_vectors& G_;
+  reporter& to_;
   product_numbers products_;
   // By vector and variable, made when first needed.
   std::vector<std::optional<compact_row>> multiples_;
@@ -98,12 +97,13 @@ class pair_reduction {
   // In pieces: as one they would be moved when they grow, many at a time.
   std::deque<leftover> leftovers_;
   // The difference and the vector of one pair in full length; the latter by variable, then vector.
-  std::vector<Fp8> W_;
-  std::vector<Fp8> S_;
+  row W_;
+  row S_;
 };
 
-pair_reduction::pair_reduction(const form_vectors& G)
+pair_reduction::pair_reduction(const form_vectors& G, reporter& to)
     : G_(G),
+      to_(to),
       products_(G.monomials()),
       multiples_(static_cast<std::size_t>(G.count()) * proj),
       multiple_at_(products_.size() * G.rank()),
@@ -124,24 +124,24 @@ std::size_t pair_reduction::place_of_first_term(const multiple& m) const {
 }
 
 const compact_row& pair_reduction::row_of(const multiple& m) {
-  std::optional<compact_row>& row = multiples_[m.vector * proj + m.variable];
-  if (!row) {
+  std::optional<compact_row>& made = multiples_[m.vector * proj + m.variable];
+  if (!made) {
     const std::size_t rank = G_.rank();
     std::vector<std::uint32_t> places;
-    std::vector<Fp8> values;
+    row values;
     G_.vector(m.vector).for_each([&](std::size_t place, Fp8 c) {
       places.push_back(
           static_cast<std::uint32_t>(products_(m.variable, place / rank) * rank + place % rank));
       values.push_back(c);
     });
-    row.emplace(std::move(places), std::move(values));
+    made.emplace(std::move(places), std::move(values));
   }
-  return *row;
+  return *made;
 }
 
 // Subtracts c times the multiple from the difference, and notes that.
 void pair_reduction::subtract(const multiple& m, Fp8 c) {
-  row_of(m).subtract_from(W_.data(), c);
+  row_of(m).subtract_from(W_, c);
   S_[m.variable * G_.count() + m.vector] -= c;
 }
 
@@ -152,17 +152,17 @@ compact_row pair_reduction::syzygy(const linear_pair& pair) {
   subtract({pair.i, pair.times_i}, Fp8(1));
   for (std::size_t place = 0;; ++place) {
     heed_interrupt();
-    place += first_nonzero(W_.data() + place, W_.size() - place);
+    place += first_nonzero(const_row_view(W_).subspan(place));
     if (place == W_.size()) return compact_row(S_);
     if (leftover_at_[place] >= 0) {
       const auto& [W, S] = leftovers_[leftover_at_[place]];
       const Fp8 c = W_[place];
-      W.subtract_from(W_.data(), c);
-      S.subtract_from(S_.data(), c);
+      W.subtract_from(W_, c);
+      S.subtract_from(S_, c);
     } else if (multiple_at_[place].vector >= 0) {
       subtract(multiple_at_[place], W_[place]);
     } else {
-      std::cout << "." << std::flush;
+      to_.mark();
       keep(place);
       return {};
     }
@@ -173,8 +173,8 @@ compact_row pair_reduction::syzygy(const linear_pair& pair) {
 void pair_reduction::keep(std::size_t pivot) {
   const Fp8 inverse = Fp8(1) / W_[pivot];
   if (inverse == 0) return;
-  scale(W_.data(), inverse, W_.size());
-  scale(S_.data(), inverse, S_.size());
+  scale(W_, inverse);
+  scale(S_, inverse);
   leftover_at_[pivot] = static_cast<int>(leftovers_.size());
   leftovers_.push_back({compact_row(W_), compact_row(S_)});
 }
@@ -218,9 +218,10 @@ std::vector<linear_pair> pairs_of_linear_vectors(const form_vectors& G) {
   return pairs;
 }
 
-form_vectors linear_syzygies(const form_vectors& G, const std::vector<linear_pair>& pairs) {
-  const progress eliminating(pairs.empty() ? "" : "eliminating syzygies ...\n");
-  pair_reduction reduction(G);
+form_vectors linear_syzygies(const form_vectors& G, const std::vector<linear_pair>& pairs,
+                             reporter& to) {
+  const progress eliminating(to, pairs.empty() ? "" : "eliminating syzygies ...\n");
+  pair_reduction reduction(G, to);
   std::vector<compact_row> syzygies;
   syzygies.reserve(pairs.size());
   int remaining = static_cast<int>(pairs.size());

@@ -1,6 +1,7 @@
 // One step of a linear strand.
 #pragma once
 
+#include "base/reporter.h"
 #include "points/strand/form_vectors.h"
 
 namespace zep::points {
@@ -25,11 +26,12 @@ std::vector<linear_pair> pairs_of_linear_vectors(const form_vectors& G);
 // The linear syzygies that come from the pairs, one vector of length G.count() for each pair: the
 // difference times_j * G_j - times_i * G_i is reduced by products of variables with vectors of G
 // and by what other pairs have left, and the vector says how zero came of it; it is zero if
-// something was left. A "." on standard output marks each difference that leaves something, and a
-// countdown is reported. The vectors of G have first terms with coefficient 1, no two the same.
+// something was left. Tells a countdown, and marks each difference that leaves something. The
+// vectors of G have first terms with coefficient 1, no two the same.
 //
 // The reduction takes the terms from the first on: by what an earlier pair has left there, or else
 // by the first vector of G whose first term divides the term.
-form_vectors linear_syzygies(const form_vectors& G, const std::vector<linear_pair>& pairs);
+form_vectors linear_syzygies(const form_vectors& G, const std::vector<linear_pair>& pairs,
+                             reporter& to);
 
 }  // namespace zep::points

@@ -1,32 +1,24 @@
 // The linear strand of the vanishing ideal.
 #pragma once
 
-#include <iosfwd>
+#include <functional>
+#include <vector>
 
-#include "points/record/scheme.h"
+#include "base/reporter.h"
+#include "points/ring/ideal.h"
+#include "points/strand/form_vectors.h"
 
 namespace zep::points {
 
-// The linear strand of the minimal graded free resolution of I_X: the minimal generators of least
-// degree, the linear syzygies among these, the linear syzygies among those, and so on. All four
-// make sure that the minimal generators exist, report their progress, mark each syzygy candidate
-// that is none by a "." on standard output, and put the numbers into row 0 of linres, as far as
-// they have a place there.
+// What is to be done with the vectors of a level, as soon as they are there.
+using level_action = std::function<void(int level, const form_vectors& vectors)>;
 
-// Computes the numbers once and marks them as done.
-void linid(scheme& X);
-
-// Computes them each time, prints the syzygies of each level, and marks nothing.
-void linsyz(std::ostream& out, scheme& X);
-
-// Computes them each time, writes generators and syzygies with headings, and marks the numbers as
-// done.
-void putlinid(std::ostream& out, scheme& X);
-
-// Computes them each time, writes the syzygies of each level, and marks nothing.
-void putlinsyz(std::ostream& out, scheme& X);
-
-// Prints the table of the numbers as they are; computes nothing.
-void disp_linid(std::ostream& out, scheme& X);
+// Follows the linear strand of the minimal graded free resolution of I_X: the minimal generators of
+// least degree at level 0, the linear syzygies among these, the linear syzygies among those, and so
+// on. `generators` are minimal ones, ascending by degree, alpha is their least degree. Calls
+// act(level, vectors) for each level, tells its progress, and marks each syzygy candidate that is
+// none. Returns the numbers of vectors of the levels, one for each affine variable, 0 where nothing
+// is left; there may be more levels than that.
+std::vector<int> linid(const ideal& generators, int alpha, reporter& to, const level_action& act);
 
 }  // namespace zep::points

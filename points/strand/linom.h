@@ -1,32 +1,20 @@
-// The linear strand of the canonical module, and the two strands together.
+// The linear strand of the canonical module.
 #pragma once
 
-#include <iosfwd>
+#include <vector>
 
-#include "points/record/scheme.h"
+#include "base/reporter.h"
+#include "points/module/presentation.h"
+#include "points/strand/linear_strand.h"
 
 namespace zep::points {
 
-// The linear strand of the minimal graded free resolution of w_R: the generators of least degree
-// (projections to monomials of the largest degree), the linear relations among these, the linear
-// syzygies among those, and so on. All four make sure that the presentation exists, report their
-// progress, mark each syzygy candidate that is none by a "." on standard output, and put the
-// numbers into row 1 of linres from its end on, as far as they have a place there.
-
-// Computes the numbers once and marks them as done.
-void linom(scheme& X);
-
-// Computes them each time, writes the linear relations and the further syzygies with headings, and
-// marks the numbers as done.
-void putlinom(std::ostream& out, scheme& X);
-
-// Compute as far as the linear relations, each time, print or write these, and mark nothing. Row 1
-// of linres ends there.
-void linomsyz(std::ostream& out, scheme& X);
-void putlinomsyz(std::ostream& out, scheme& X);
-
-// Print the table of the numbers as they are; that for w_R, and that for both. Compute nothing.
-void disp_linom(std::ostream& out, scheme& X);
-void disp_linres(std::ostream& out, scheme& X);
+// Follows the linear strand of the minimal graded free resolution of w_R: the generators of least
+// degree (projections to monomials of the largest degree), the linear relations among these at
+// level 1, the linear syzygies among those, and so on. Calls visit(level, vectors) from level 1 on,
+// and goes no further when it returns false; tells its progress, and marks each syzygy candidate
+// that is none. Returns the numbers, one for each affine variable: that of the generators last,
+// those of the levels before it, 0 where nothing is left.
+std::vector<int> linom(const presentation& w_R, reporter& to, const level_visitor& visit);
 
 }  // namespace zep::points

@@ -1,16 +1,12 @@
 #include "points/walk/beta_matrix.h"
 
 #include <algorithm>
-#include <ostream>
 #include <utility>
 #include <vector>
 
 #include "base/interrupt.h"
-#include "base/output.h"
-#include "base/reporter.h"
+#include "base/paranoid.h"
 #include "linalg/row_operations.h"
-#include "points/record/consistency.h"
-#include "points/walk/separators.h"
 
 namespace zep::points {
 
@@ -18,14 +14,17 @@ namespace {
 
 // The elimination among the leading forms. Rows belong to points. Column l of `forms` belongs to
 // the l-th member of O of top degree, of which there are delta; they are the last ones of O.
-class leading_forms {
+class form_elimination {
  public:
-  explicit leading_forms(const scheme& X)
-      : beta(X.delta, X.s), forms_(X.delta, X.s), of_basis_(X.delta, X.delta), in_basis_(X.s) {
-    for (int i = 0; i < X.s; ++i) {
+  form_elimination(const matrix& separator, int delta)
+      : beta(delta, separator.rows()),
+        forms_(delta, separator.rows()),
+        of_basis_(delta, delta),
+        in_basis_(separator.rows()) {
+    for (int i = 0; i < separator.rows(); ++i) {
       heed_interrupt();
-      const auto row = X.separator.row(i);
-      std::copy(row.end() - X.delta, row.end(), forms_[i]);
+      const const_row_view form = separator[i].last(delta);
+      std::copy(form.begin(), form.end(), forms_[i].begin());
     }
   }
 
@@ -41,10 +40,20 @@ class leading_forms {
         join(i);
       } else {
         const Fp8 c = forms_[i][column] / forms_[pivot][column];
-        axpy(forms_[i], forms_[pivot], -c, column + 1);
-        axpy(beta[i], of_basis_[last()], c, last() + 1);
+        axpy(forms_[i].first(column + 1), forms_[pivot].first(column + 1), -c);
+        axpy(beta[i].first(basis.size()), of_basis_[last()].first(basis.size()), c);
       }
     }
+  }
+
+  // True when the rows of beta that belong to the basis are unit vectors.
+  bool basis_is_expressed() const {
+    for (int l = 0; l <= last(); ++l) {
+      for (int j = 0; j < beta.cols(); ++j) {
+        if (beta[basis[l]][j] != (j == l ? 1 : 0)) return false;
+      }
+    }
+    return true;
   }
 
   matrix beta;
@@ -73,29 +82,19 @@ class leading_forms {
 
 }  // namespace
 
-void beta_matrix(scheme& X) {
-  need_sep(X);
-  if (X.beta_matrix) return;
-  leading_forms forms(X);
-  const progress countdown("calculating beta matrix ...\n");
-  for (int column = X.delta - 1; column >= 0; --column) {
+leading_forms beta_matrix(const order_ideal& X, reporter& to) {
+  const int delta = X.H.delta;
+  form_elimination forms(X.separator, delta);
+  const progress countdown(to, "calculating beta matrix ...\n");
+  for (int column = delta - 1; column >= 0; --column) {
     countdown.count(column + 1);
     forms.eliminate(column);
   }
   countdown.end_line();
-
+  ensure("a basis element is itself in the basis", [&] { return forms.basis_is_expressed(); });
   // Meaningless data may leave the basis short.
-  forms.basis.resize(X.delta);
-  X.beta_matrix = std::move(forms.beta);
-  X.basis = std::move(forms.basis);
-  ensure_consistent(X);
-}
-
-void disp_beta_matrix(std::ostream& out, scheme& X) {
-  beta_matrix(X);
-  out << "the beta_matrix with respect to the following separators :\n";
-  for (const int i : X.basis) out << "f" << i + 1 << ", ";
-  out << "\n" << *X.beta_matrix << Line;
+  forms.basis.resize(delta);
+  return {std::move(forms.beta), std::move(forms.basis)};
 }
 
 }  // namespace zep::points

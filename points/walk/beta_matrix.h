@@ -2,18 +2,24 @@
 // part of degree sigma + 1, the greatest that one can have; 0 if its own degree is smaller.
 #pragma once
 
-#include <iosfwd>
+#include <vector>
 
-#include "points/record/scheme.h"
+#include "base/reporter.h"
+#include "linalg/matrix.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
-// Chooses delta separators whose leading forms are a basis of all of them, and writes the
-// leading form of every separator in that basis. Fills X.beta_matrix and X.basis. Writes progress.
-// Runs once; makes what it needs.
-void beta_matrix(scheme& X);
+struct leading_forms {
+  // Entry (i, l) is the coefficient of the leading form of separator basis[l] in that of separator
+  // i: s rows, delta columns.
+  matrix beta;
+  std::vector<int> basis;
+};
 
-// Prints the basis and the matrix, and Line.
-void disp_beta_matrix(std::ostream& out, scheme& X);
+// Chooses delta separators whose leading forms are a basis of all of them - the first point first,
+// the greatest member of O first - and writes the leading form of every separator in that basis.
+// Tells its progress.
+leading_forms beta_matrix(const order_ideal& X, reporter& to);
 
 }  // namespace zep::points

@@ -2,17 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iostream>
 #include <span>
 #include <utility>
 
 #include "arith/candidate.h"
 #include "base/interrupt.h"
-#include "base/output.h"
-#include "base/reporter.h"
 #include "linalg/row_operations.h"
-#include "points/record/consistency.h"
-#include "points/walk/hilbert.h"
 #include "points/walk/separator_table.h"
 
 namespace zep::points {
@@ -58,7 +53,7 @@ class monomial_walk {
   std::vector<monom> O;
   std::vector<monom> B;
   std::vector<monom> leads;
-  std::vector<std::vector<Fp8>> tails;
+  std::vector<row> tails;
   separator_table separators;
 
  private:
@@ -112,7 +107,7 @@ class monomial_walk {
   }
 
   void decide_batch(std::span<const mmm> candidates) {
-    std::vector<std::vector<Fp8>> values;
+    std::vector<row> values;
     values.reserve(candidates.size());
     for (const mmm& m : candidates) {
       heed_interrupt();
@@ -134,11 +129,10 @@ class monomial_walk {
   }
 
   // The values of m.t at the points, from those of the member that it was made from.
-  std::vector<Fp8> values_of(const mmm& m) const {
-    std::vector<Fp8> values(s_, Fp8(1));
+  row values_of(const mmm& m) const {
+    row values(s_, Fp8(1));
     if (m.n >= 0) {
-      pointwise_product(values.data(), values_before_[m.n - first_before_].data(),
-                        coordinates_[m.k], s_);
+      pointwise_product(values, values_before_[m.n - first_before_], coordinates_[m.k]);
     }
     return values;
   }
@@ -148,39 +142,24 @@ class monomial_walk {
   const progress& countdown_;
   // The values of the members of the degree at hand; those of the degree before, and the position
   // in O of the first of these.
-  std::vector<std::vector<Fp8>> values_;
-  std::vector<std::vector<Fp8>> values_before_;
+  std::vector<row> values_;
+  std::vector<row> values_before_;
   int first_before_ = 0;
 };
 
 }  // namespace
 
-void bu_mo(scheme& X) {
-  const progress countdown("calculating triangular sequence ...\n");
-  monomial_walk walk(X.P, countdown);
+order_ideal bu_mo(const matrix& P, reporter& to) {
+  const progress countdown(to, "calculating triangular sequence ...\n");
+  monomial_walk walk(P, countdown);
   walk.run();
   countdown.end_line();
-  std::cout << Line;
+  to.end_of_computation();
 
-  walk.O.resize(X.s);
-  monom_index O_index(walk.O);
-  monom_index B_index(walk.B);
-  matrix separator = walk.separators.separators();
-  groebner_basis Ix(std::move(walk.leads), std::move(walk.tails));
-
-  X.O = std::move(walk.O);
-  X.O_index = std::move(O_index);
-  X.B = std::move(walk.B);
-  X.B_index = std::move(B_index);
-  X.Ix = std::move(Ix);
-  X.separator = std::move(separator);
-  hilbert(X);
-  X.has_bu_mo = true;
-  ensure_consistent(X);
-}
-
-void need_bu_mo(scheme& X) {
-  if (!X.has_bu_mo) bu_mo(X);
+  walk.O.resize(P.rows());
+  return {std::move(walk.O), std::move(walk.B),
+          groebner_basis(std::move(walk.leads), std::move(walk.tails)),
+          walk.separators.separators()};
 }
 
 }  // namespace zep::points

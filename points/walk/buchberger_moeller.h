@@ -1,7 +1,9 @@
 // The Buchberger-Moeller algorithm.
 #pragma once
 
-#include "points/record/scheme.h"
+#include "base/reporter.h"
+#include "linalg/matrix.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
@@ -11,12 +13,9 @@ namespace zep::points {
 // its divisors lie in O. The separators of the points are what the values are reduced by. (Moeller,
 // Buchberger: The construction of multivariate polynomials with preassigned zeros, 1982.)
 //
-// Fills everything that `scheme` lists under bu_mo, with `hilbert`. Writes progress, which calls
-// the reduced values a triangular sequence, and Line to standard output. Must not run twice on a
-// scheme; assumes a degree-compatible order.
-void bu_mo(scheme& X);
-
-// Runs bu_mo unless it has run.
-void need_bu_mo(scheme& X);
+// The points are the rows of P, by their affine coordinates. Tells its progress, which calls the
+// reduced values a triangular sequence, and its end. Assumes a degree-compatible order. With
+// repeated points, or a composite characteristic, the result means nothing, but has the same form.
+order_ideal bu_mo(const matrix& P, reporter& to);
 
 }  // namespace zep::points

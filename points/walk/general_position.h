@@ -1,17 +1,12 @@
 // Linearly general position.
 #pragma once
 
-#include <iosfwd>
-
-#include "points/record/scheme.h"
+#include "linalg/matrix.h"
 
 namespace zep::points {
 
-// True when min(s, n + 1) of the points, taken with their homogeneous coordinates, are linearly
-// independent; that one such subset exists, not that all are independent.
-bool has_independent_subset(const scheme& X);
-
-// Prints the verdict and Line.
-void lingenpos(std::ostream& out, scheme& X);
+// True when min(s, n + 1) of the points, the rows of P with a coordinate 1 before them, are
+// linearly independent; that one such subset exists, not that all are independent.
+bool has_independent_subset(const matrix& P);
 
 }  // namespace zep::points

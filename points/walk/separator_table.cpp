@@ -15,15 +15,15 @@ separator_table::separator_table(int s) : s_(s), free_(identity_order(s)) {
   pivots_.reserve(s_);
 }
 
-std::vector<separator_table::verdict> separator_table::take(std::vector<std::vector<Fp8>> values) {
+std::vector<separator_table::verdict> separator_table::take(std::vector<row> values) {
   std::vector<reduced_row> members;
   members.reserve(pivots_.size());
   for (std::size_t j = 0; j < pivots_.size(); ++j) {
-    members.push_back({separators_[j].data(), pivots_[j]});
+    members.push_back({separators_[j], pivots_[j]});
   }
   std::vector<reduced_row> taken;
   taken.reserve(values.size());
-  for (std::vector<Fp8>& row : values) taken.push_back({row.data()});
+  for (row& t : values) taken.push_back({t});
 
   reduce(taken, members);
   eliminate(taken);
@@ -43,10 +43,10 @@ std::vector<separator_table::verdict> separator_table::take(std::vector<std::vec
   return verdicts;
 }
 
-std::vector<Fp8> separator_table::coefficients(const std::vector<Fp8>& row) const {
-  std::vector<Fp8> over_members;
+row separator_table::coefficients(const_row_view reduced) const {
+  row over_members;
   over_members.reserve(pivots_.size());
-  for (const int p : pivots_) over_members.push_back(row[p]);
+  for (const int p : pivots_) over_members.push_back(reduced[p]);
   return over_members;
 }
 
@@ -69,14 +69,15 @@ void separator_table::eliminate(std::span<reduced_row> rows) {
 // Makes the first free point at which the row is not 0 its pivot. The coefficient of its monomial,
 // which is 1 until then, goes there.
 void separator_table::find_pivot(reduced_row& t) {
-  const auto pivot = std::find_if(free_.begin(), free_.end(), [&](int x) { return t.row[x] != 0; });
+  const auto pivot =
+      std::find_if(free_.begin(), free_.end(), [&](int x) { return t.elements[x] != 0; });
   if (pivot == free_.end()) return;
   t.pivot = *pivot;
   free_.erase(pivot);
-  Fp8 c = t.row[t.pivot];
+  Fp8 c = t.elements[t.pivot];
   c.invert();
-  scale(t.row, c, s_);
-  t.row[t.pivot] = c;
+  scale(t.elements, c);
+  t.elements[t.pivot] = c;
 }
 
 std::vector<separator_table::reduced_row> separator_table::joined(
@@ -92,30 +93,30 @@ std::vector<separator_table::reduced_row> separator_table::joined(
 void separator_table::reduce(std::span<const reduced_row> rows,
                              std::span<const reduced_row> by) const {
   matrix coefficients(static_cast<int>(by.size()), static_cast<int>(rows.size()));
-  std::vector<Fp8*> reduced;
-  std::vector<const Fp8*> subtracted;
+  std::vector<row_view> reduced;
+  std::vector<const_row_view> subtracted;
   reduced.reserve(rows.size());
   subtracted.reserve(by.size());
-  for (const reduced_row& f : by) subtracted.push_back(f.row);
+  for (const reduced_row& f : by) subtracted.push_back(f.elements);
   for (const reduced_row& t : rows) {
     heed_interrupt();
-    Fp8* const c = coefficients[static_cast<int>(reduced.size())];
+    const row_view c = coefficients[static_cast<int>(reduced.size())];
     for (std::size_t j = 0; j < by.size(); ++j) {
-      Fp8& value = t.row[by[j].pivot];
+      Fp8& value = t.elements[by[j].pivot];
       c[j] = -value;
       value = 0;
     }
-    reduced.push_back(t.row);
+    reduced.push_back(t.elements);
   }
-  add_combinations(reduced, coefficients, subtracted, s_);
+  add_combinations(reduced, coefficients, subtracted);
 }
 
 matrix separator_table::separators() const {
   matrix over_O(static_cast<int>(s_), static_cast<int>(s_));
   for (std::size_t j = 0; j < pivots_.size(); ++j) {
     heed_interrupt();
-    const std::vector<Fp8> row = coefficients(separators_[j]);
-    std::copy(row.begin(), row.end(), over_O[pivots_[j]]);
+    const row separator = coefficients(separators_[j]);
+    std::copy(separator.begin(), separator.end(), over_O[pivots_[j]].begin());
   }
   return over_O;
 }

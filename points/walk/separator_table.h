@@ -33,12 +33,12 @@ class separator_table {
     // It is a member now.
     bool joined = false;
     // Else the coefficients over the members before it of what it lacks to vanish at all points.
-    std::vector<Fp8> tail;
+    row tail;
   };
 
   // Takes monomials with these rows of values at the points, one after the other. The more at once
   // the better.
-  std::vector<verdict> take(std::vector<std::vector<Fp8>> values);
+  std::vector<verdict> take(std::vector<row> values);
 
   // The separators over the members: row i belongs to point i. Zero for a point that is no pivot,
   // and behind the last member.
@@ -47,7 +47,7 @@ class separator_table {
  private:
   // A row that is being reduced, or that has been; with a pivot, it is that of a separator.
   struct reduced_row {
-    Fp8* row = nullptr;
+    row_view elements;
     int pivot = no_pivot;
   };
   static constexpr int no_pivot = -1;
@@ -57,10 +57,10 @@ class separator_table {
   void eliminate(std::span<reduced_row> rows);
   void find_pivot(reduced_row& t);
   void reduce(std::span<const reduced_row> rows, std::span<const reduced_row> by) const;
-  std::vector<Fp8> coefficients(const std::vector<Fp8>& row) const;
+  row coefficients(const_row_view reduced) const;
 
   std::size_t s_;
-  std::vector<std::vector<Fp8>> separators_;
+  std::vector<row> separators_;
   std::vector<int> pivots_;
   // The points that are no pivots, ascending.
   std::vector<int> free_;

@@ -1,41 +1,41 @@
 #include "points/walk/separators.h"
 
-#include <iostream>
-
-#include "arith/Fp.h"
 #include "base/interrupt.h"
-#include "base/output.h"
-#include "base/reporter.h"
-#include "points/record/consistency.h"
-#include "points/walk/buchberger_moeller.h"
-#include "points/walk/hilbert.h"
+#include "base/paranoid.h"
 
 namespace zep::points {
 
-void sep(scheme& X) {
-  const progress countdown("calculating biorthogonal sequence ...\n");
-  countdown.count_down(X.s);
-  countdown.end_line();
-  std::cout << Line;
-  hilbert2(X);
-  X.sep = 1;
-  ensure_consistent(X);
-}
+namespace {
 
-void need_sep(scheme& X) {
-  need_bu_mo(X);
-  if (X.sep == 0) sep(X);
-}
-
-void separators(std::ostream& out, scheme& X) {
-  need_sep(X);
-  out << "separators of X : \n";
-  for (int i = 0; i < X.s; ++i) {
+bool has_cayley_bacharach(const order_ideal& X) {
+  for (int k = 1; k < X.s(); ++k) {
     heed_interrupt();
-    counter = len(i + 1) + 4;
-    out << "f" << i + 1 << " = " << separator_of(X, i) << "\n";
+    if (separator_degree(X, k) != separator_degree(X, k - 1)) return false;
   }
-  out << Line;
+  return true;
+}
+
+bool has_symmetric_hilbert_function(const order_ideal& X) {
+  const int sigma = X.H.sigma;
+  for (int i = 0; i <= sigma / 2; ++i) {
+    if (hilbert_function(X.H, i) + hilbert_function(X.H, sigma - i) != X.s()) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+verdicts sep(const order_ideal& X, reporter& to) {
+  const progress countdown(to, "calculating biorthogonal sequence ...\n");
+  countdown.count_down(X.s());
+  countdown.end_line();
+  to.end_of_computation();
+  verdicts found;
+  found.is_CB = has_cayley_bacharach(X);
+  if (found.is_CB) found.is_ar_Go = has_symmetric_hilbert_function(X);
+  ensure("Gorenstein schemes have the Cayley-Bacharach property",
+         [&] { return found.is_CB || !found.is_ar_Go; });
+  return found;
 }
 
 }  // namespace zep::points

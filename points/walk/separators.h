@@ -1,21 +1,24 @@
-// Separators.
+// Separators, and the properties that they decide.
 #pragma once
 
-#include <iosfwd>
+#include <optional>
 
-#include "points/record/scheme.h"
+#include "base/reporter.h"
+#include "points/ring/order_ideal.h"
 
 namespace zep::points {
 
-// Lets the separators, which bu_mo finds on its way, count as computed, and decides the
-// Cayley-Bacharach and Gorenstein properties (`hilbert2`). Writes progress, and Line to standard
-// output. Requires bu_mo; must not run twice on a scheme.
-void sep(scheme& X);
+// What the separators say of X. Arithmetically Gorenstein schemes have the Cayley-Bacharach
+// property; without it the separators leave the other question open.
+struct verdicts {
+  bool is_CB = false;
+  std::optional<bool> is_ar_Go;
+};
 
-// Runs bu_mo and sep unless they have run.
-void need_sep(scheme& X);
-
-// Prints the separators.
-void separators(std::ostream& out, scheme& X);
+// Lets the separators, which bu_mo has found on its way, count as computed: tells their progress
+// and end, and decides the two properties. X has the Cayley-Bacharach property when all separators
+// have one degree, and then it is arithmetically Gorenstein when its Hilbert function is symmetric.
+// (Davis, Geramita, Orecchia: Gorenstein algebras and the Cayley-Bacharach theorem, 1985.)
+verdicts sep(const order_ideal& X, reporter& to);
 
 }  // namespace zep::points

@@ -1,17 +1,17 @@
 // Uniformity: whether every choice of so many separators is independent in the top degree.
 #pragma once
 
-#include <iosfwd>
+#include <optional>
+#include <vector>
 
-#include "points/record/scheme.h"
+#include "base/reporter.h"
+#include "linalg/matrix.h"
 
 namespace zep::points {
 
-// Decides the delta-uniform property, that is, k = delta, and prints the verdict and Line; with
-// `verbose` a countdown before it. Makes what it needs.
-void is_delta_uf(std::ostream& out, scheme& X);
-
-// The same for the n-uniform property, k = n, for n up to delta; refuses other n.
-void is_n_uf(std::ostream& out, scheme& X, int n);
+// The first k of the points, in colexicographic order, ascending, whose separators have dependent
+// leading forms; none if X is k-uniform. The forms are the rows of the beta matrix, and 0 <= k <=
+// its number of columns. Tells how far the last point of the subsets has come.
+std::optional<std::vector<int>> dependent_separators(const matrix& beta, int k, reporter& to);
 
 }  // namespace zep::points

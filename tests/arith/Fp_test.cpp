@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstdint>
+#include <exception>
 #include <iomanip>
 #include <numeric>
 #include <random>
 #include <sstream>
 #include <string>
 #include <tuple>
+#include <type_traits>
 
 #include "tests/arith/division_fault.h"
 #include "tests/draw.h"
@@ -36,7 +37,7 @@ int plain_inverse(int a, int p) {
   return 0;
 }
 
-TEST(Fp, StartsWithTheModulus31991) { EXPECT_EQ(prime_at_start, 31991); }
+TEST(Fp, StartsWithThePrime101) { EXPECT_EQ(prime_at_start, 101); }
 
 TEST(Fp, ConstructionStoresTheIntUnreduced) {
   const ring_in_force ring(101);
@@ -94,14 +95,13 @@ TEST(Fp, CompoundAssignmentsChangeAndReturnTheLeftOperand) {
   EXPECT_EQ(x.value(), 76);
 }
 
-TEST(Fp, ProductsAreExactForTheLargestModulus) {
-  const ring_in_force ring(101);
-  Fp::prime = 31991;
-  EXPECT_EQ((Fp(31990) * Fp(31990)).value(), 1);
-  EXPECT_EQ((Fp(31990) * Fp(31989)).value(), 2);
-  Fp x(12345);
+TEST(Fp, ProductsAreExactForTheLargestPrime) {
+  const ring_in_force ring(251);
+  EXPECT_EQ((Fp(250) * Fp(250)).value(), 1);
+  EXPECT_EQ((Fp(250) * Fp(249)).value(), 2);
+  Fp x(123);
   x.invert();
-  EXPECT_EQ((x * Fp(12345)).value(), 1);
+  EXPECT_EQ((x * Fp(123)).value(), 1);
 }
 
 TEST(Fp, DivisionTakesACopyOfTheDivisor) {
@@ -160,7 +160,6 @@ TEST(Fp, NegativeOfZeroIsThePrimeAndNegative) {
   EXPECT_EQ(sign(x), -1);
   EXPECT_EQ(text_of(x), "0");
   EXPECT_EQ(len(x), 1);
-  EXPECT_EQ(abs(x).value(), 0);
 }
 
 TEST(Fp, InvertsOneTwoAndMinusOne) {
@@ -186,12 +185,12 @@ TEST(Fp, InvertFindsTheInverseOfEveryUnit) {
   }
 }
 
-TEST(FpDeathTest, InvertingZeroEndsTheProcess) {
+TEST(Fp, InvertingZeroIsADivisionByZero) {
   const ring_in_force ring(101);
   expect_division_fault("Fp", [] { Fp(0).invert(); });
 }
 
-TEST(FpDeathTest, DividingByZeroEndsTheProcess) {
+TEST(Fp, DividingByZeroIsADivisionByZero) {
   const ring_in_force ring(101);
   expect_division_fault("Fp", [] { EXPECT_EQ(Fp(1) / Fp(0), 0); });
   expect_division_fault("Fp", [] {
@@ -200,35 +199,13 @@ TEST(FpDeathTest, DividingByZeroEndsTheProcess) {
   });
 }
 
-TEST(FpDeathTest, InvertingADivisorOfZeroEndsTheProcess) {
+TEST(Fp, DivisionByZeroIsNoError) {
+  EXPECT_FALSE((std::is_base_of_v<std::exception, division_by_zero>));
+}
+
+TEST(Fp, InvertingADivisorOfZeroIsADivisionByZero) {
   const ring_in_force ring(4);
   expect_division_fault("Fp", [] { Fp(2).invert(); });
-}
-
-TEST(Fp, PowMultipliesAsOftenAsTheExponentSays) {
-  const ring_in_force ring(101);
-  for (const int a : {0, 1, 2, 57, 100}) {
-    Fp power(1);
-    for (int n = 0; n <= 210; ++n) {
-      ASSERT_EQ(pow(Fp(a), n), power) << a << "^" << n;
-      ASSERT_EQ(pow(Fp(a), -n), power) << a << "^" << -n;
-      power *= Fp(a);
-    }
-  }
-}
-
-TEST(Fp, PowTakesTheMagnitudeOfTheSmallestExponent) {
-  const ring_in_force ring(101);
-  Fp power(3);
-  for (int squarings = 0; squarings < 31; ++squarings) power *= power;
-  EXPECT_EQ(pow(Fp(3), INT_MIN), power);
-}
-
-TEST(Fp, FirstPowerIsTheElementItself) {
-  const ring_in_force ring(101);
-  EXPECT_EQ(pow(Fp(150), 1).value(), 150);
-  EXPECT_EQ(pow(Fp(150), -1).value(), 150);
-  EXPECT_EQ(pow(Fp(-1), 1).value(), -1);
 }
 
 TEST(Fp, PrintsTheSymmetricRepresentative) {
@@ -254,26 +231,24 @@ TEST(Fp, PrintsAsTheStreamPrintsInts) {
   EXPECT_EQ(out.str(), "  -50+7");
 }
 
-TEST(Fp, SignAndAbsFollowThePrintedForm) {
+TEST(Fp, SignAndLenFollowThePrintedForm) {
   for (const int p : {2, 3, 4, 101, 251}) {
     const ring_in_force ring(p);
     for (int a = 0; a < p; ++a) {
       const int printed = std::stoi(text_of(Fp(a)));
       ASSERT_EQ((printed - a) % p, 0);
       ASSERT_EQ(sign(Fp(a)), (printed > 0) - (printed < 0)) << a << " mod " << p;
-      ASSERT_EQ(abs(Fp(a)).value(), printed < 0 ? -printed : printed) << a << " mod " << p;
       ASSERT_EQ(len(Fp(a)), static_cast<int>(text_of(Fp(a)).size())) << a << " mod " << p;
     }
   }
 }
 
-TEST(Fp, SignAbsLenAndPrintingTakeUnreducedValuesAsTheyAre) {
+TEST(Fp, SignLenAndPrintingTakeUnreducedValuesAsTheyAre) {
   const ring_in_force ring(101);
-  for (const auto& [value, expected_sign, expected_abs, printed] :
-       {std::tuple(-3, 1, -3, "-3"), std::tuple(-120, 1, -120, "-120"),
-        std::tuple(205, -1, -104, "104"), std::tuple(1200, -1, -1099, "1099")}) {
+  for (const auto& [value, expected_sign, printed] :
+       {std::tuple(-3, 1, "-3"), std::tuple(-120, 1, "-120"), std::tuple(205, -1, "104"),
+        std::tuple(1200, -1, "1099")}) {
     EXPECT_EQ(sign(Fp(value)), expected_sign) << value;
-    EXPECT_EQ(abs(Fp(value)).value(), expected_abs) << value;
     EXPECT_EQ(text_of(Fp(value)), printed);
     EXPECT_EQ(len(Fp(value)), static_cast<int>(std::string(printed).size())) << value;
   }
@@ -290,15 +265,6 @@ TEST(Fp, LenOfAnIntCountsAtMostFiveDigits) {
   EXPECT_EQ(len(-123456), 6);
   EXPECT_EQ(len(INT_MAX), 5);
   EXPECT_EQ(len(INT_MIN), 6);
-}
-
-TEST(Fp, LenOfARationalCountsSignDigitsAndSlash) {
-  EXPECT_EQ(len(Rational(0)), 1);
-  EXPECT_EQ(len(Rational(12)), 2);
-  EXPECT_EQ(len(Rational(-12)), 3);
-  EXPECT_EQ(len(Rational(-3, 4)), 4);
-  EXPECT_EQ(len(Rational(22, 7)), 4);
-  EXPECT_EQ(len(Rational("1" + std::string(40, '0'))), 41);
 }
 
 TEST(Fp, ReadsRationalsModuloThePrime) {
@@ -372,14 +338,14 @@ TEST(Fp, IsZeroWhenNothingCouldBeRead) {
   EXPECT_EQ(read("3/").value(), 0);
 }
 
-TEST(FpDeathTest, ReadingADenominatorDivisibleByThePrimeEndsTheProcess) {
+TEST(Fp, ReadingADenominatorDivisibleByThePrimeIsADivisionByZero) {
   const ring_in_force ring(101);
   expect_division_fault("Fp", [] { read("1/101"); });
   expect_division_fault("Fp", [] { read("5/-202"); });
   expect_division_fault("Fp", [] { read("1/0"); });
 }
 
-TEST(FpDeathTest, ReadingADenominatorThatDividesZeroEndsTheProcess) {
+TEST(Fp, ReadingADenominatorThatDividesZeroIsADivisionByZero) {
   const ring_in_force ring(4);
   expect_division_fault("Fp", [] { read("1/2"); });
 }

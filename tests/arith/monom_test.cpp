@@ -50,8 +50,7 @@ TEST(Monom, HasAsManySlotsAsTheRing) {
   for (const int n : {2, 3, 6, max_variables - 1}) {
     const ring_in_force ring(101, n);
     EXPECT_EQ(monom().dim(), n);
-    const raised_dim raised;
-    EXPECT_EQ(monom().dim(), n + 1);
+    EXPECT_EQ(projective_variable(0).dim(), n + 1);
   }
 }
 
@@ -92,7 +91,6 @@ TEST(Monom, TotDegNeverCountsTheHomogenisingVariable) {
   EXPECT_EQ(power_product({1, 2, 3}).tot_deg(), 6);
   EXPECT_EQ(projective({1, 2, 3, 9}).tot_deg(), 6);
   EXPECT_EQ(power_product({1, -2, 0}).tot_deg(), -1);
-  const raised_dim raised;
   EXPECT_EQ(power_product({1, 2, 3, 9}).tot_deg(), 6);
 }
 
@@ -128,10 +126,8 @@ TEST(Monom, LenIsTheWidthOfTheFactorsWithPositiveExponents) {
 TEST(Monom, LenLooksAtItsOwnSlotsOnly) {
   const ring_in_force ring;
   EXPECT_EQ(len(monom(1)), 3);
-  const monom affine(2);
-  const raised_dim raised;
-  EXPECT_EQ(len(affine), 9);
-  EXPECT_EQ(len(monom(2)), 12);
+  EXPECT_EQ(len(monom(2)), 9);
+  EXPECT_EQ(len(projective({2, 2, 2, 2})), 12);
 }
 
 TEST(Monom, LenIsTheLengthOfTheTextExceptForOne) {
@@ -195,29 +191,42 @@ TEST(Monom, ProductAndQuotientAddAndSubtractExponents) {
   }
 }
 
-TEST(Monom, ProductHasTheDimensionOfTheRing) {
+TEST(Monom, ProductAndQuotientOfProjectiveMonomialsAreProjective) {
   const ring_in_force ring;
   const monom a = projective({1, 2, 3, 4});
   const monom b = projective({1, 1, 1, 1});
-  EXPECT_EQ((a * b).dim(), 3);
-  EXPECT_EQ(text_of(a * b), "X^2Y^3Z^4");
-  EXPECT_EQ((a * b).exp(3), 0);
-  EXPECT_EQ((a / b).dim(), 3);
-  EXPECT_EQ(text_of(a / b), "YZ^2");
-  EXPECT_EQ((a / b).exp(3), 0);
-  const raised_dim raised;
+  EXPECT_EQ((a * b).dim(), 4);
   EXPECT_EQ(text_of(a * b), "X^2Y^3Z^4T^5");
+  EXPECT_EQ((a / b).dim(), 4);
   EXPECT_EQ(text_of(a / b), "YZ^2T^3");
 }
 
-TEST(Monom, ProductOfMixedMonomialsAddsTheirCommonSlotsOnly) {
+TEST(Monom, ProductAndQuotientAreOfTheKindOfTheLeftFactor) {
   const ring_in_force ring;
   const monom affine = power_product({1, 0, 0});
   const monom homogeneous = projective({1, 2, 3, 4});
-  const raised_dim raised;
+  EXPECT_EQ((affine * homogeneous).dim(), 3);
   EXPECT_EQ(text_of(affine * homogeneous), "X^2Y^2Z^3");
-  EXPECT_EQ((affine * homogeneous).dim(), 4);
-  EXPECT_EQ(text_of(homogeneous / affine), "Y^2Z^3");
+  EXPECT_EQ((affine * homogeneous).exp(3), 0);
+  EXPECT_EQ((affine / homogeneous).dim(), 3);
+  EXPECT_EQ(text_of(affine / homogeneous), "Y^-2Z^-3");
+  EXPECT_EQ((affine / homogeneous).exp(3), 0);
+  EXPECT_EQ((homogeneous * affine).dim(), 4);
+  EXPECT_EQ(text_of(homogeneous * affine), "X^2Y^2Z^3T^4");
+  EXPECT_EQ((homogeneous / affine).dim(), 4);
+  EXPECT_EQ(text_of(homogeneous / affine), "Y^2Z^3T^4");
+}
+
+TEST(Monom, ProductAndQuotientLeaveTheirOperands) {
+  const ring_in_force ring;
+  const monom a = power_product({1, 2, 3});
+  const monom b = projective({4, 5, 6, 7});
+  const monom product = a * b;
+  const monom quotient = a / b;
+  EXPECT_EQ(text_of(product), "X^5Y^7Z^9");
+  EXPECT_EQ(text_of(quotient), "X^-3Y^-3Z^-3");
+  EXPECT_EQ(text_of(a), "XY^2Z^3");
+  EXPECT_EQ(text_of(b), "X^4Y^5Z^6T^7");
 }
 
 TEST(Monom, InPlaceOperationsKeepTheirOwnDimension) {
@@ -305,32 +314,43 @@ TEST(Monom, FileFormHasNoCarets) {
 
 TEST(Monom, PrintsItsOwnSlotsOnly) {
   const ring_in_force ring;
-  monom m(1);
-  EXPECT_EQ(text_of(m), "XYZ");
-  const raised_dim raised;
-  EXPECT_EQ(text_of(m), "XYZ");
+  EXPECT_EQ(text_of(monom(1)), "XYZ");
+  EXPECT_EQ(text_of(projective({1, 1, 1, 1})), "XYZT");
 }
 
 TEST(Monom, PrintsTheNamesInForce) {
-  const ring_in_force ring;
-  varstring = "pqrs";
+  const arith::ring_in_force named(ring{.n = 3, .names = "pqrs"});
   EXPECT_EQ(text_of(projective({1, 2, 0, 1})), "pq^2s");
   EXPECT_EQ(file_form(projective({1, 2, 0, 1})), "pq2s");
 }
 
 TEST(Monom, PrintsAllTwentySevenVariables) {
   const ring_in_force ring(101, max_variables - 1);
-  const raised_dim raised;
-  EXPECT_EQ(text_of(monom(1)), "XYZTabcdefghijklmnopqrstuvw");
+  EXPECT_EQ(text_of(monom(1)), "XYZTabcdefghijklmnopqrstuv");
+  monom all = projective_variable(0);
+  all = monom::exponent(1);
+  EXPECT_EQ(text_of(all), "XYZTabcdefghijklmnopqrstuvw");
 }
 
-TEST(Monom, VariableIsAffineOrProjectiveAsTheRing) {
+TEST(Monom, VariableIsAffine) {
   const ring_in_force ring;
-  EXPECT_EQ(text_of(variable(2)), "Z");
-  EXPECT_EQ(variable(2).dim(), 3);
-  const raised_dim raised;
-  EXPECT_EQ(text_of(variable(3)), "T");
-  EXPECT_EQ(variable(3).dim(), 4);
+  const char* const names[] = {"X", "Y", "Z"};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(text_of(variable(i)), names[i]);
+    EXPECT_EQ(variable(i).dim(), 3);
+    EXPECT_EQ(variable(i).exp(3), 0);
+  }
+}
+
+TEST(Monom, ProjectiveVariableIsProjectiveAndTheLastOneHomogenises) {
+  const ring_in_force ring;
+  const char* const names[] = {"X", "Y", "Z", "T"};
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(text_of(projective_variable(i)), names[i]);
+    EXPECT_EQ(projective_variable(i).dim(), 4);
+  }
+  EXPECT_EQ(projective_variable(2).tot_deg(), 1);
+  EXPECT_EQ(projective_variable(3).tot_deg(), 0);
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace zep::tests {
 namespace {
 
 // Taken before any test changes them.
-const int ordering_at_start = monom_ordering;
+const term_order order_at_start = current_ring().order;
 const monom_comparison lt_at_start = monom_ordering_lt;
 const monom_comparison le_at_start = monom_ordering_le;
 const monom_comparison proj_lt_at_start = proj_monom_ordering_lt;
@@ -50,27 +50,24 @@ void expect_operators_level(const monom& a, const monom& b) {
 }
 
 TEST(Ordering, DegrevlexIsInForceAtStart) {
-  EXPECT_EQ(ordering_at_start, 1);
+  EXPECT_EQ(order_at_start, term_order::degrevlex);
   EXPECT_EQ(lt_at_start, degrevlex_lt);
   EXPECT_EQ(le_at_start, degrevlex_le);
   EXPECT_EQ(proj_lt_at_start, proj_degrevlex_lt);
   EXPECT_EQ(proj_le_at_start, proj_degrevlex_le);
 }
 
-TEST(Ordering, UseDegrevlexSetsNumberAndFunctions) {
-  const ring_in_force ring(101, 3, term_order::deglex);
-  use_degrevlex();
-  EXPECT_EQ(monom_ordering, 1);
+TEST(Ordering, ARingWithDegrevlexPutsItsFunctionsInForce) {
+  const ring_in_force before(101, 3, term_order::deglex);
+  const ring_in_force ring(101, 3, term_order::degrevlex);
   EXPECT_EQ(monom_ordering_lt, degrevlex_lt);
   EXPECT_EQ(monom_ordering_le, degrevlex_le);
   EXPECT_EQ(proj_monom_ordering_lt, proj_degrevlex_lt);
   EXPECT_EQ(proj_monom_ordering_le, proj_degrevlex_le);
 }
 
-TEST(Ordering, UseDeglexSetsNumberAndFunctions) {
-  const ring_in_force ring;
-  use_deglex();
-  EXPECT_EQ(monom_ordering, 0);
+TEST(Ordering, ARingWithDeglexPutsItsFunctionsInForce) {
+  const ring_in_force ring(101, 3, term_order::deglex);
   EXPECT_EQ(monom_ordering_lt, deglex_lt);
   EXPECT_EQ(monom_ordering_le, deglex_le);
   EXPECT_EQ(proj_monom_ordering_lt, proj_deglex_lt);
@@ -174,53 +171,42 @@ TEST(Ordering, OperatorsUseTheAffineOrderForAnAffineAndAProjectiveMonomial) {
   }
 }
 
-TEST(Ordering, OperatorsGoThroughThePointers) {
-  const ring_in_force ring;
-  monom_ordering_lt = lex_lt;
-  monom_ordering_le = lex_le;
-  proj_monom_ordering_lt = revlex_lt;
-  proj_monom_ordering_le = revlex_le;
-  expect_operators_below(power_product({0, 9, 0}), power_product({1, 0, 0}));
-  expect_operators_below(projective({0, 9, 0, 0}), projective({1, 0, 0, 0}));
-  expect_operators_below(projective({1, 0, 1, 0}), projective({0, 0, 0, 0}));
-  expect_operators_below(power_product({0, 0, 0}), power_product({1, 0, 1}));
-  expect_operators_below(power_product({0, 0, 0}), projective({1, 0, 1, 0}));
-  expect_operators_below(projective({0, 0, 0, 0}), power_product({1, 0, 1}));
-}
-
-TEST(Ordering, OperatorsDoNotTakeTheOrderForTotal) {
-  const ring_in_force ring;
-  monom_ordering_lt = proj_monom_ordering_lt = Zn_order_lt;
-  monom_ordering_le = proj_monom_ordering_le = Zn_order_le;
-  const monom x = power_product({1, 0, 0});
-  const monom y = power_product({0, 1, 0});
-  EXPECT_FALSE(x < y || x > y || x <= y || x >= y);
-  const monom xt = projective({1, 0, 0, 1});
-  const monom yy = projective({0, 2, 0, 0});
-  EXPECT_FALSE(xt < yy || xt > yy || xt <= yy || xt >= yy);
-  expect_operators_below(x, power_product({1, 1, 0}));
-  expect_operators_level(x, x);
+TEST(Ordering, OperatorsFollowTheOrderInForce) {
+  const ring_in_force degrevlex;
+  const monom xz = power_product({1, 0, 1});
+  const monom yy = power_product({0, 2, 0});
+  const monom xzt = projective({1, 0, 1, 1});
+  const monom yyt = projective({0, 2, 0, 1});
+  const auto expect_below_in_all_kinds = [](const monom& a, const monom& at, const monom& b,
+                                            const monom& bt) {
+    expect_operators_below(a, b);
+    expect_operators_below(at, bt);
+    expect_operators_below(a, bt);
+    expect_operators_below(at, b);
+  };
+  expect_below_in_all_kinds(xz, xzt, yy, yyt);
+  {
+    const ring_in_force deglex(101, 3, term_order::deglex);
+    expect_below_in_all_kinds(yy, yyt, xz, xzt);
+  }
+  expect_below_in_all_kinds(xz, xzt, yy, yyt);
 }
 
 TEST(Ordering, DivisibilityIsComponentwise) {
   const ring_in_force ring;
   const monom a = power_product({1, 0, 2});
-  expect_below(Zn_order_lt, Zn_order_le, a, power_product({1, 1, 2}));
-  EXPECT_FALSE(Zn_order_lt(a, a));
+  EXPECT_TRUE(Zn_order_le(a, power_product({1, 1, 2})));
+  EXPECT_FALSE(Zn_order_le(power_product({1, 1, 2}), a));
   EXPECT_TRUE(Zn_order_le(a, a));
   const monom incomparable = power_product({5, 5, 1});
-  EXPECT_FALSE(Zn_order_lt(a, incomparable) || Zn_order_lt(incomparable, a));
   EXPECT_FALSE(Zn_order_le(a, incomparable) || Zn_order_le(incomparable, a));
-  EXPECT_TRUE(Zn_order_lt(power_product({-1, 0, 0}), power_product({0, 0, 0})));
+  EXPECT_TRUE(Zn_order_le(power_product({-1, 0, 0}), power_product({0, 0, 0})));
 }
 
 TEST(Ordering, DivisibilityLooksAtTheSlotsOfTheFirstMonomial) {
   const ring_in_force ring;
   EXPECT_FALSE(Zn_order_le(projective({1, 0, 0, 2}), projective({1, 0, 0, 1})));
-  EXPECT_TRUE(Zn_order_lt(projective({1, 0, 0, 0}), projective({1, 0, 0, 1})));
-  EXPECT_FALSE(Zn_order_lt(power_product({1, 0, 0}), projective({1, 0, 0, 1})));
   EXPECT_TRUE(Zn_order_le(power_product({1, 0, 0}), projective({1, 0, 0, 1})));
-  EXPECT_FALSE(Zn_order_lt(projective({1, 0, 0, 1}), power_product({2, 0, 0})));
   EXPECT_FALSE(Zn_order_le(projective({1, 0, 0, 1}), power_product({1, 0, 0})));
 }
 

@@ -147,12 +147,12 @@ TEST(Polynomial, CancelledTermsAreDropped) {
 }
 
 TEST(Polynomial, SumsMergeInTheOrderInForce) {
+  const ring_in_force degrevlex;
   const monom xz = power_product({1, 0, 1});
   const monom yy = power_product({0, 2, 0});
-  const ring_in_force ring;
   EXPECT_EQ((polynomial(xz) + polynomial(yy)).term(0), yy);
   EXPECT_EQ((polynomial(yy) + polynomial(xz)).term(0), yy);
-  use_deglex();
+  const ring_in_force deglex(101, 3, term_order::deglex);
   EXPECT_EQ((polynomial(xz) + polynomial(yy)).term(0), xz);
   EXPECT_EQ((polynomial(yy) + polynomial(xz)).term(0), xz);
 }
@@ -256,32 +256,6 @@ TEST(Polynomial, SignTellsZeroOnly) {
   EXPECT_EQ(sign(polynomial(0)), 0);
   EXPECT_EQ(sign(polynomial(1)), 1);
   EXPECT_EQ(sign(polynomial(100)), 1);
-}
-
-TEST(Polynomial, IsPrjIsTheHomogenisingExponentOfTheLeadingTerm) {
-  const ring_in_force ring;
-  EXPECT_EQ(is_prj(polynomial(projective({1, 0, 0, 7}))), 7);
-  EXPECT_EQ(is_prj(polynomial(projective({1, 0, 0, -1}))), -1);
-  EXPECT_EQ(is_prj(sum_of({{1, projective({1, 0, 0, 0})}, {1, projective({0, 0, 0, 1})}})), 0);
-  EXPECT_EQ(is_prj(polynomial(X())), 0);
-}
-
-TEST(Polynomial, LeadingFormIsTheTopDegreePart) {
-  const ring_in_force ring;
-  const polynomial f = sum_of(
-      {{1, power_product({2, 0, 0})}, {1, power_product({1, 1, 0})}, {1, Y()}, {1, monom(0)}});
-  EXPECT_EQ(text_of(Lf(f)), "X^2 + XY");
-  EXPECT_EQ(Lf(Lf(f)), Lf(f));
-  EXPECT_EQ(Lf(polynomial(5)), polynomial(5));
-  expect_zero(Lf(polynomial(0)));
-}
-
-TEST(Polynomial, LeadingFormCountsAffineDegreesInProjectivePolynomials) {
-  const ring_in_force ring;
-  const polynomial f = sum_of({{1, projective({2, 0, 0, 0})},
-                               {1, projective({1, 1, 0, 0})},
-                               {1, projective({0, 1, 0, 1})}});
-  EXPECT_EQ(text_of(Lf(f)), "X^2 + XY");
 }
 
 TEST(Polynomial, HomRaisesEveryTermToTheLeadingDegree) {

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "arith/polynomial.h"
-#include "arith/ring.h"
 
 namespace zep::tests {
 
@@ -19,8 +18,11 @@ inline monom power_product(std::initializer_list<int> exponents) {
 
 // The same as a projective monomial; the exponent of the homogenising variable comes last.
 inline monom projective(std::initializer_list<int> exponents) {
-  const raised_dim raised;
-  return power_product(exponents);
+  monom m;
+  prj(m);
+  int i = 0;
+  for (const int e : exponents) m.set_exp(i++, e);
+  return m;
 }
 
 struct term_data {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <stdexcept>
 #include <string>
 
 #include "tests/ring_in_force.h"
@@ -14,69 +12,45 @@ namespace {
 // Taken before any test changes them.
 const int dim_at_start = dim;
 const int proj_at_start = proj;
-std::string names_at_start;
-
-// The names are no constant: they are there when all that is global has been made, not before.
-class names_taken_at_start : public testing::Environment {
- public:
-  void SetUp() override { names_at_start = varstring; }
-};
-const testing::Environment* const taking_names =
-    testing::AddGlobalTestEnvironment(std::make_unique<names_taken_at_start>().release());
+const std::string names_at_start(ring_data::names.begin(), ring_data::names.begin() + proj);
+const ring ring_at_start = current_ring();
 
 TEST(Ring, StartsWithThreeAffineVariables) {
   EXPECT_EQ(dim_at_start, 3);
   EXPECT_EQ(proj_at_start, 4);
 }
 
-TEST(Ring, SetDimensionSetsBothCounts) {
-  const ring_in_force ring;
+TEST(Ring, StartsWithTheFirstOfTheNames) { EXPECT_EQ(names_at_start, "XYZT"); }
+
+TEST(Ring, TheDefaultOneIsInForceAtStart) { EXPECT_EQ(ring_at_start, ring()); }
+
+TEST(Ring, IsTheOneOverF101InDegrevlexByDefault) {
+  const ring R;
+  EXPECT_EQ(R.p, 101);
+  EXPECT_EQ(R.n, 3);
+  EXPECT_EQ(R.order, term_order::degrevlex);
+}
+
+TEST(Ring, NamesEveryVariableByDefault) {
+  EXPECT_EQ(ring().names, "XYZTabcdefghijklmnopqrstuvw");
+  EXPECT_EQ(ring().names.size(), static_cast<std::size_t>(max_variables));
+}
+
+TEST(Ring, DiffersInEveryPart) {
+  const ring R;
+  EXPECT_EQ(R, ring());
+  EXPECT_NE(R, ring{.p = 7});
+  EXPECT_NE(R, ring{.n = 2});
+  EXPECT_NE(R, ring{.names = "xyzt"});
+  EXPECT_NE(R, ring{.order = term_order::deglex});
+}
+
+TEST(Ring, HasOneHomogeneousCoordinateMoreThanAffineVariables) {
   for (int n = 2; n < max_variables; ++n) {
-    set_dimension(n);
-    EXPECT_EQ(dim, n);
-    EXPECT_EQ(proj, n + 1);
-  }
-}
-
-TEST(Ring, NamesEveryVariableAtStart) {
-  EXPECT_EQ(names_at_start, "XYZTabcdefghijklmnopqrstuvw");
-  EXPECT_EQ(names_at_start.size(), static_cast<std::size_t>(max_variables));
-}
-
-TEST(Ring, RaisedDimRaisesForItsLifeOnly) {
-  for (const int n : {2, 3, 6}) {
     const ring_in_force ring(101, n);
-    {
-      const raised_dim raised;
-      EXPECT_EQ(dim, n + 1);
-      EXPECT_EQ(proj, n + 1);
-    }
     EXPECT_EQ(dim, n);
     EXPECT_EQ(proj, n + 1);
   }
-}
-
-TEST(Ring, RaisedDimNests) {
-  const ring_in_force ring;
-  {
-    const raised_dim outer;
-    {
-      const raised_dim inner;
-      EXPECT_EQ(dim, 4);
-    }
-    EXPECT_EQ(dim, 4);
-  }
-  EXPECT_EQ(dim, 3);
-}
-
-TEST(Ring, RaisedDimRestoresWhenAnExceptionPasses) {
-  const ring_in_force ring;
-  const auto interrupted = [] {
-    const raised_dim raised;
-    throw std::runtime_error("interrupted");
-  };
-  EXPECT_THROW(interrupted(), std::runtime_error);
-  EXPECT_EQ(dim, 3);
 }
 
 }  // namespace

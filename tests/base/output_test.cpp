@@ -2,43 +2,47 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
+#include <limits>
 #include <string>
-
-#include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
 
-// Taken before any test changes them.
-const int length_at_start = LL;
-const int counter_at_start = counter;
-
-TEST(Output, StartsAtColumnZeroOfLinesOfEightyCharacters) {
-  EXPECT_EQ(length_at_start, 80);
-  EXPECT_EQ(counter_at_start, 0);
+std::string number(int n) {
+  std::array<char, longest_number> room{};
+  return {room.data(), write_number(room.data(), n)};
 }
 
+TEST(Output, HasLinesOfEightyCharacters) { EXPECT_EQ(LL, 80); }
+
 TEST(Output, LineIsOneDashShorterThanTheLineLength) {
-  const ring_in_force ring;
-  for (const int length : {80, 79, 40, 2, 1, 200}) {
-    set_line_length(length);
-    EXPECT_EQ(LL, length);
-    ASSERT_EQ(static_cast<int>(Line.size()), length);
-    EXPECT_EQ(Line.find_first_not_of('-'), Line.size() - 1);
-    EXPECT_EQ(Line.back(), '\n');
+  ASSERT_EQ(static_cast<int>(Line.size()), LL);
+  EXPECT_EQ(Line.find_first_not_of('-'), Line.size() - 1);
+  EXPECT_EQ(Line.back(), '\n');
+}
+
+TEST(Output, LineHasSeventyNineDashes) { EXPECT_EQ(Line, std::string(79, '-') + "\n"); }
+
+TEST(Output, NumbersAreWrittenInDecimalDigits) {
+  for (const int n : {0, 7, 10, 251, -1, -32768, 123456789}) {
+    EXPECT_EQ(number(n), std::to_string(n));
   }
 }
 
-TEST(Output, LineHasSeventyNineDashesAtTheStandardLength) {
-  const ring_in_force ring;
-  EXPECT_EQ(Line, std::string(79, '-') + "\n");
+TEST(Output, EveryNumberFitsTheRoomThatIsAskedFor) {
+  for (const int n : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+    EXPECT_EQ(number(n), std::to_string(n));
+  }
+  EXPECT_EQ(number(std::numeric_limits<int>::min()).size(), longest_number);
 }
 
-TEST(Output, LineLengthLeavesTheColumn) {
-  const ring_in_force ring;
-  counter = 17;
-  set_line_length(60);
-  EXPECT_EQ(counter, 17);
+TEST(Output, WritesNothingBehindANumber) {
+  std::array<char, longest_number> room{};
+  room.fill('#');
+  EXPECT_EQ(write_number(room.data(), -42), room.data() + 3);
+  EXPECT_EQ(std::string(room.data(), room.size()), "-42" + std::string(longest_number - 3, '#'));
 }
 
 }  // namespace

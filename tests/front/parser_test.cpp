@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <ios>
+#include <sstream>
+#include <string>
+
+#include "base/interrupt.h"
 #include "tests/front/transcript.h"
 
 namespace zep::tests {
@@ -120,13 +125,59 @@ TEST(Parser, EveryBeginningOfASessionEndsInOrder) {
       "gbasis D\nlingenpos D\nhelp\nnonsense\nlist\nquit\n";
   for (std::size_t length = 0; length <= session.size(); ++length) {
     std::istringstream keyboard(session.substr(0, length));
-    zep::tests::session z(keyboard);
-    set_defaults(z);
+    workspace shared;
+    zep::tests::session z(shared, keyboard);
     const captured out(std::cout);
     const captured err(std::cerr);
     parser(z);
     EXPECT_TRUE(z.quit) << length;
   }
+}
+
+TEST(Parser, GoesOnBehindAnErrorUnlessItIsToStop) {
+  const std::string typed = "list\nnonsense\nlist\n";
+  workspace goes_on;
+  EXPECT_EQ(type_in(goes_on, typed).out, "% % command or indentifier unknown\n% % ");
+  EXPECT_FALSE(has_to_stop(goes_on));
+  workspace stops;
+  stops.stop_on_error = true;
+  EXPECT_FALSE(has_to_stop(stops));
+  EXPECT_EQ(type_in(stops, typed).out, "% % command or indentifier unknown\n");
+  EXPECT_TRUE(has_to_stop(stops));
+}
+
+TEST(Parser, CountsWhatIsLeftOfALineAsAnError) {
+  workspace shared;
+  type_in(shared, "list x\n");
+  EXPECT_EQ(shared.wrong.number(), 1);
+  type_in(shared, "nonsense x\n");
+  EXPECT_EQ(shared.wrong.number(), 3);
+  type_in(shared, "list\n\nring\n");
+  EXPECT_EQ(shared.wrong.number(), 3);
+}
+
+TEST(Parser, EndsWithoutACommandWhenNobodySeesThePrompt) {
+  std::istringstream keyboard("quiet\n");
+  workspace shared;
+  session z(shared, keyboard);
+  const captured out(std::cout);
+  std::cout.setstate(std::ios::badbit);
+  parser(z);
+  std::cout.clear();
+  EXPECT_TRUE(shared.report.is_verbose());
+  EXPECT_FALSE(z.quit);
+}
+
+TEST(Parser, SaysThatACommandWasInterruptedAndGoesOn) {
+  workspace shared;
+  type_in(shared, "random A 3\n");
+  request_interrupt();
+  const transcript t = type_in(shared, "alpha A\nlist\n");
+  // What was typed already is dropped.
+  EXPECT_EQ(t.out, "% % ");
+  EXPECT_EQ(t.err.substr(t.err.size() - 12), "interrupted\n");
+  EXPECT_EQ(shared.wrong.number(), 0);
+  EXPECT_EQ(type_in(shared, "list\n").out, "% scheme A\n% ");
 }
 
 TEST(Parser, AVeryLongLineIsReportedWhole) {

@@ -5,8 +5,8 @@
 #include <sstream>
 #include <string>
 
-#include "front/commands/settings.h"
 #include "front/parser.h"
+#include "front/session/workspace.h"
 #include "tests/captured.h"
 
 namespace zep::tests {
@@ -20,15 +20,20 @@ struct transcript {
   std::string err;
 };
 
-// Carries out what is typed, from the defaults on, until `quit` or the end.
-inline transcript type_in(const std::string& typed) {
+// Carries out what is typed in this workspace, until `quit` or the end.
+inline transcript type_in(workspace& shared, const std::string& typed) {
   std::istringstream keyboard(typed);
-  session z(keyboard);
-  set_defaults(z);
+  session z(shared, keyboard);
   const captured out(std::cout);
   const captured err(std::cerr);
   parser(z);
   return {out.text(), err.text()};
+}
+
+// The same in a workspace of its own, from the defaults on.
+inline transcript type_in(const std::string& typed) {
+  workspace shared;
+  return type_in(shared, typed);
 }
 
 }  // namespace zep::tests

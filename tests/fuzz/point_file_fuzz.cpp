@@ -9,47 +9,42 @@
 #include <sstream>
 #include <string>
 
-#include "arith/Fp8.h"
-#include "arith/ring.h"
+#include "arith/ring_in_force.h"
 #include "front/parser.h"
 #include "front/session/session.h"
 #include "tests/fuzz/sandbox.h"
 
 namespace {
 
-struct ring {
-  int characteristic;
-  int dimension;
-
-  void put_in_force() const {
-    zep::tests::Fp8::prime = characteristic;
-    zep::tests::Fp8::init();
-    zep::tests::set_dimension(dimension);
-  }
-};
-
 // There are fields with few elements, where points are equal, the largest, and one that is no
 // field.
-constexpr std::array<ring, 5> rings = {{{2, 2}, {251, 2}, {101, 3}, {4, 3}, {31, 7}}};
+struct space {
+  int characteristic;
+  int dimension;
+};
+constexpr std::array<space, 5> spaces = {{{2, 2}, {251, 2}, {101, 3}, {4, 3}, {31, 7}}};
 
-// The digits 0 to 4 choose the rings in order.
-const ring& chosen_by(std::uint8_t byte) {
-  return rings[(byte + rings.size() - '0' % rings.size()) % rings.size()];
+// The digits 0 to 4 choose the spaces in order.
+zep::arith::ring chosen_by(std::uint8_t byte) {
+  const space& chosen = spaces[(byte + spaces.size() - '0' % spaces.size()) % spaces.size()];
+  return {.p = chosen.characteristic, .n = chosen.dimension};
 }
 
-void expect_equal_copy(const zep::tests::session& z) {
-  const int original = z.var.find("A");
-  if (original == zep::tests::unknown_identifier) return;
-  const int copy = z.var.find("B");
-  if (copy == zep::tests::unknown_identifier) std::abort();
-  if (!(z.var.object(original).P == z.var.object(copy).P)) std::abort();
+void expect_equal_copy(zep::front::identifier_table& identifiers) {
+  const zep::front::identifier* const original = identifiers.find("A");
+  if (original == nullptr) return;
+  const zep::front::identifier* const copy = identifiers.find("B");
+  if (copy == nullptr) std::abort();
+  if (!(original->object->P() == copy->object->P())) std::abort();
 }
 
-void read_write_and_read() {
+void read_write_and_read(const zep::arith::ring& R) {
   std::istringstream keyboard("scheme A points\n putscheme A copy\n scheme B copy\n A\n");
-  zep::tests::session z(keyboard);
-  zep::tests::parser(z);
-  expect_equal_copy(z);
+  zep::front::workspace shared;
+  const zep::arith::ring_in_force in_force(R);
+  zep::front::session z(shared, keyboard);
+  zep::front::parser(z);
+  expect_equal_copy(shared.var);
 }
 
 }  // namespace
@@ -58,8 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (size == 0) return 0;
   const std::uint8_t* const last = data + size - 1;
   zep::tests::start_afresh();
-  chosen_by(*last).put_in_force();
   zep::tests::put_file("points", std::string(data, last));
-  zep::tests::in_sandbox(read_write_and_read);
+  zep::tests::in_sandbox([&] { read_write_and_read(chosen_by(*last)); });
   return 0;
 }

@@ -1,24 +1,20 @@
-// Stands in for arith/division_by_zero.cpp and front/files/open_file.cpp: the linker takes these
-// definitions and leaves those of the libraries out.
+// Stands in for front/files/open_file.cpp: the linker takes these definitions and leaves those of
+// the library out.
 #include "tests/fuzz/sandbox.h"
 
 #include <fcntl.h>
+#ifdef ZEP_HAVE_MEMFD
 #include <sys/mman.h>
+#endif
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 
-#include "arith/Fp.h"
-#include "arith/Fp8.h"
-#include "arith/division_by_zero.h"
-#include "arith/ordering.h"
-#include "arith/ring.h"
-#include "base/output.h"
-#include "base/reporter.h"
 #include "front/files/files.h"
 
 namespace zep::tests {
@@ -27,19 +23,40 @@ namespace {
 
 constexpr std::size_t most_files = 16;
 
-// The files by name, as descriptors of anonymous memory.
-std::map<std::string, int>& files() {
-  static std::map<std::string, int> by_name;
+// A file that is gone when nobody needs it any more: anonymous memory, where the system has that.
+class hidden_file {
+ public:
+#ifdef ZEP_HAVE_MEMFD
+  hidden_file() : descriptor_(::memfd_create("result", MFD_CLOEXEC)) {
+    path_ = "/proc/self/fd/" + std::to_string(descriptor_);
+  }
+  ~hidden_file() { ::close(descriptor_); }
+#else
+  hidden_file() : path_(std::filesystem::temp_directory_path() / "zep-fuzzing-XXXXXX") {
+    descriptor_ = ::mkstemp(path_.data());
+  }
+  ~hidden_file() {
+    ::close(descriptor_);
+    ::unlink(path_.c_str());
+  }
+#endif
+  hidden_file(const hidden_file&) = delete;
+  hidden_file& operator=(const hidden_file&) = delete;
+
+  bool is_open() const { return descriptor_ >= 0; }
+  // Under which it can be opened, each time with a position of its own.
+  const std::string& path() const { return path_; }
+
+ private:
+  std::string path_;
+  int descriptor_ = -1;
+};
+
+// The files by the names that sessions know.
+std::map<std::string, hidden_file>& files() {
+  static std::map<std::string, hidden_file> by_name;
   return by_name;
 }
-
-void forget_files() {
-  for (const auto& [name, descriptor] : files()) ::close(descriptor);
-  files().clear();
-}
-
-// The path under which the descriptor can be opened, each time with a position of its own.
-std::string path_of(int descriptor) { return "/proc/self/fd/" + std::to_string(descriptor); }
 
 bool can_be_created(const std::string& name) {
   return !name.empty() && name != "." && name != ".." &&
@@ -53,26 +70,10 @@ std::string created(const std::string& name) {
   auto file = files().find(name);
   if (file == files().end()) {
     if (!can_be_created(name)) return "";
-    const int descriptor = ::memfd_create("result", MFD_CLOEXEC);
-    if (descriptor < 0) std::abort();
-    file = files().emplace(name, descriptor).first;
+    file = files().try_emplace(name).first;
+    if (!file->second.is_open()) std::abort();
   }
-  return path_of(file->second);
-}
-
-// The tables keep what was computed for a larger characteristic before.
-void clear(Fp8::table& table) {
-  for (auto& row : table) std::fill(std::begin(row), std::end(row), std::uint8_t{0});
-}
-
-void clear_field() {
-  clear(Fp8::add);
-  clear(Fp8::sub);
-  clear(Fp8::mul);
-  clear(Fp8::div);
-  Fp8::prime = 101;
-  Fp8::reciprocal = 0xFFFFFFFF / 101;
-  Fp::prime = 31991;
+  return file->second.path();
 }
 
 }  // namespace
@@ -85,25 +86,12 @@ void put_file(const std::string& name, const std::string& contents) {
 }
 
 void start_afresh() {
-  forget_files();
-  clear_field();
-  set_dimension(3);
-  varstring = "XYZTabcdefghijklmnopqrstuvw";
-  use_degrevlex();
-  set_line_length(80);
-  counter = 0;
-  verbose = 1;
+  files().clear();
   std::cout.clear();
   std::cerr.clear();
 }
 
 }  // namespace zep::tests
-
-namespace zep::arith {
-
-void division_by_zero(std::string_view /*field*/) { throw tests::division_fault(); }
-
-}  // namespace zep::arith
 
 namespace zep::front {
 
@@ -115,7 +103,8 @@ int open_result(const std::string& name, existing_contents existing) {
 
 int open_source(const std::string& name) {
   const auto file = tests::files().find(name);
-  return file == tests::files().end() ? -1 : ::open(tests::path_of(file->second).c_str(), O_RDONLY | O_CLOEXEC);
+  return file == tests::files().end() ? -1
+                                      : ::open(file->second.path().c_str(), O_RDONLY | O_CLOEXEC);
 }
 
 }  // namespace zep::front

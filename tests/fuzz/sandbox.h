@@ -8,18 +8,16 @@
 #include <streambuf>
 #include <string>
 
-#include "base/floors.h"
+#include "arith/division_by_zero.h"
 
 namespace zep::tests {
-
-// Takes the place of the program's end at a division by zero.
-struct division_fault {};
 
 // Files are kept in memory while the sandbox is linked: names without a slash name one of at most
 // 16 of them, "full" takes no data, and nothing else can be opened.
 void put_file(const std::string& name, const std::string& contents);
 
-// Puts everything global back to what the program starts with, and forgets all files.
+// Forgets all files, and what a run may have left in the standard streams. The ring comes and goes
+// with the workspace of a run.
 void start_afresh();
 
 // Drops what is written to one of the standard streams while it lives.
@@ -50,7 +48,7 @@ void in_sandbox(Action action) {
   const discarded err(std::cerr);
   try {
     action();
-  } catch (const division_fault&) {
+  } catch (const division_by_zero&) {
   } catch (const std::bad_alloc&) {
   } catch (const std::length_error&) {
   }

@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "base/paranoid.h"
 #include "linalg/kernels/bounds.h"
 #include "tests/draw.h"
 #include "tests/linalg/variant_in_force.h"
@@ -14,7 +15,6 @@
 namespace zep::tests {
 namespace {
 
-using row = std::vector<Fp8>;
 using rows = std::vector<row>;
 
 class Combinations : public variant_in_force {};
@@ -41,11 +41,11 @@ matrix random_matrix(std::mt19937& random, std::size_t r, std::size_t c) {
   return m;
 }
 
-// The rows from the given offset on.
-template <class Pointer>
-std::vector<Pointer> starts(rows& all, std::size_t offset) {
-  std::vector<Pointer> result;
-  for (row& r : all) result.push_back(r.data() + offset);
+// Of each row the n elements from the given offset on.
+template <class View>
+std::vector<View> stretches(rows& all, std::size_t offset, std::size_t n) {
+  std::vector<View> result;
+  for (row& r : all) result.push_back(View(r).subspan(offset, n));
   return result;
 }
 
@@ -65,7 +65,8 @@ void expect_plain_sums(rows c, const matrix& a, rows b, std::size_t n, std::size
                        std::size_t offset_b = 0) {
   rows expected = c;
   add_plainly(expected, a, b, n, offset_c, offset_b);
-  add_combinations(starts<Fp8*>(c, offset_c), a, starts<const Fp8*>(b, offset_b), n);
+  add_combinations(stretches<row_view>(c, offset_c, n), a,
+                   stretches<const_row_view>(b, offset_b, n));
   ASSERT_TRUE(c == expected) << c.size() << " rows of " << n << ", " << b.size() << " summands";
 }
 
@@ -116,7 +117,7 @@ TEST_P(Combinations, AreExactWhereSumsAreLargest) {
     const Fp8 greatest(p - 1);
     for (const std::size_t k : {products_in_a_tile, 3 * products_in_a_tile}) {
       matrix a(static_cast<int>(k), 16);
-      for (int i = 0; i < 16; ++i) std::fill_n(a[i], k, greatest);
+      for (int i = 0; i < 16; ++i) std::fill(a[i].begin(), a[i].end(), greatest);
       ASSERT_NO_FATAL_FAILURE(
           expect_plain_sums(rows(16, row(16, greatest)), a, rows(k, row(16, greatest)), 16));
     }
@@ -147,6 +148,32 @@ TEST_P(Combinations, UseAsManyCoefficientsOfAMatrixAsThereAreRows) {
   std::mt19937 random(5);
   ASSERT_NO_FATAL_FAILURE(expect_plain_sums(
       random_rows(random, 16, 18), random_matrix(random, 20, 16), random_rows(random, 16, 18), 18));
+}
+
+TEST_P(Combinations, OfRowsOfAMatrixAreItsRows) {
+  const ring_in_force ring(101);
+  std::mt19937 random(6);
+  const rows b = random_rows(random, 20, 30);
+  matrix c(30, 20);
+  matrix a(20, 20);
+  for (int i = 0; i < 20; ++i) a[i][19 - i] = Fp8(1);
+  std::vector<row_view> sums;
+  for (int i = 0; i < 20; ++i) sums.push_back(c[i]);
+  add_combinations(sums, a, std::vector<const_row_view>(b.begin(), b.end()));
+  for (int i = 0; i < 20; ++i) {
+    EXPECT_TRUE(std::equal(c[i].begin(), c[i].end(), b[19 - i].begin())) << i;
+  }
+}
+
+TEST(CombinationsDeathTest, RowsHaveOneLengthInTheParanoidBuild) {
+  if (!paranoid) GTEST_SKIP() << "checked in the paranoid build";
+  const ring_in_force ring;
+  row sum(5);
+  const row added(4);
+  const matrix a(1, 1);
+  const std::vector<row_view> c = {sum};
+  const std::vector<const_row_view> b = {added};
+  EXPECT_DEATH(add_combinations(c, a, b), "rows of one call have one length");
 }
 
 }  // namespace

@@ -11,8 +11,6 @@
 namespace zep::tests {
 namespace {
 
-using row = std::vector<Fp8>;
-
 // A row in which about one element of `rarity` is not zero.
 row random_row(std::mt19937& random, std::size_t n, int rarity) {
   row result(n);
@@ -40,7 +38,7 @@ TEST(CompactRow, IsZeroFromTheStart) {
   EXPECT_TRUE(compact_row(row(5)).is_zero());
   EXPECT_TRUE(compact_row(row()).is_zero());
   row d(3, Fp8(1));
-  zero.subtract_from(d.data(), Fp8(1));
+  zero.subtract_from(d, Fp8(1));
   EXPECT_EQ(d, row(3, Fp8(1)));
 }
 
@@ -101,7 +99,7 @@ TEST(CompactRow, IsSubtractedElementByElement) {
         row d = random_row(random, 150, 1);
         row expected = d;
         for (std::size_t i = 0; i < d.size(); ++i) expected[i] -= Fp8(c) * r[i];
-        compact.subtract_from(d.data(), Fp8(c));
+        compact.subtract_from(d, Fp8(c));
         ASSERT_EQ(d, expected);
       }
     }

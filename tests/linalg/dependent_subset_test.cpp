@@ -7,6 +7,7 @@
 #include <random>
 #include <vector>
 
+#include "reference/matrices.h"
 #include "tests/draw.h"
 #include "tests/plain_echelon.h"
 #include "tests/ring_in_force.h"
@@ -44,9 +45,9 @@ walk_result plain_walk(const matrix& m, int k) {
   do {
     plain_echelon rows;
     for (const int i : c) {
-      std::vector<int> row;
-      for (const Fp8 x : m.row(i)) row.push_back(x.value());
-      rows.add(row);
+      std::vector<int> entries;
+      for (const Fp8 x : m[i]) entries.push_back(x.value());
+      rows.add(entries);
     }
     if (rows.rank() < k) {
       result.dependent = c;
@@ -121,7 +122,7 @@ TEST(DependentSubset, TakesLargeSubsets) {
       matrix m = random_matrix(k + round % 3, k + 2, random);
       if (round % 4 == 1) {
         // Only subsets that leave out one of the first rows are independent.
-        std::copy(m.row(0).begin(), m.row(0).end(), m[2]);
+        std::copy(m[0].begin(), m[0].end(), m[2].begin());
       }
       const walk_result expected = plain_walk(m, k);
       EXPECT_EQ(fast_walk(m, k), expected);
@@ -155,12 +156,12 @@ TEST(DependentSubset, AgreesWithDeterminants) {
     const matrix m = random_matrix(3, 6, random);
     const walk_result found = fast_walk(m, 3);
     if (found.dependent) {
-      EXPECT_EQ(m.minor(columns, *found.dependent), Fp8(0));
+      EXPECT_EQ(minor(m, columns, *found.dependent), Fp8(0));
     }
     std::vector<int> advances;
     subset c = {0, 1, 2};
     while (c != found.dependent) {
-      EXPECT_NE(m.minor(columns, c), Fp8(0));
+      EXPECT_NE(minor(m, columns, c), Fp8(0));
       if (!advance(c, 6, advances)) break;
     }
   }
@@ -179,7 +180,7 @@ TEST(DependentSubset, AgreesWithTheSolutionSpacesOfTheChosenRows) {
     do {
       matrix chosen(5, k);
       for (int i = 0; i < k; ++i) {
-        std::copy(m.row(c[i]).begin(), m.row(c[i]).end(), chosen[i]);
+        std::copy(m[c[i]].begin(), m[c[i]].end(), chosen[i].begin());
       }
       std::vector<int> columns = identity_order(5);
       std::vector<int> rows = identity_order(k);

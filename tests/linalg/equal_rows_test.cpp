@@ -27,7 +27,7 @@ matrix column_of(std::initializer_list<int> entries) {
 pair_of_rows first_pair(const matrix& m) { return equal_rows(m).first_pair(); }
 
 bool same_row(const matrix& m, int i, int k) {
-  return std::equal(m.row(i).begin(), m.row(i).end(), m.row(k).begin());
+  return std::equal(m[i].begin(), m[i].end(), m[k].begin());
 }
 
 pair_of_rows first_pair_of_all(const matrix& m) {

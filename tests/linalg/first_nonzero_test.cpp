@@ -10,8 +10,6 @@
 namespace zep::tests {
 namespace {
 
-using row = std::vector<Fp8>;
-
 // Behind a row, where nothing may be looked at.
 constexpr std::size_t margin = 16;
 
@@ -26,7 +24,7 @@ TEST(FirstNonzero, FindsEveryPosition) {
         for (std::size_t i = 0; i < n; ++i) data[offset + i] = Fp8(0);
         for (std::size_t i = place; i < n; ++i) data[offset + i] = Fp8(below(random, 101));
         if (place < n) data[offset + place] = Fp8(1 + below(random, 100));
-        ASSERT_EQ(first_nonzero(data.data() + offset, n), place) << "n = " << n;
+        ASSERT_EQ(first_nonzero(const_row_view(data).subspan(offset, n)), place) << "n = " << n;
       }
     }
   }
@@ -37,7 +35,7 @@ TEST(FirstNonzero, SeesEveryBit) {
     for (const int value : {1, 2, 4, 8, 16, 32, 64, 128}) {
       row data(20);
       data[place] = Fp8(value);
-      ASSERT_EQ(first_nonzero(data.data(), data.size()), place) << value;
+      ASSERT_EQ(first_nonzero(data), place) << value;
     }
   }
 }

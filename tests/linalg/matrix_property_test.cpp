@@ -2,133 +2,32 @@
 
 #include <algorithm>
 #include <random>
-#include <span>
 #include <utility>
 #include <vector>
 
 #include "linalg/matrix.h"
 #include "tests/draw.h"
+#include "tests/linalg/random_matrices.h"
 #include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
 
-using order = std::vector<int>;
-
-int& at(order& list, int i) { return list[static_cast<std::size_t>(i)]; }
-int at(const order& list, int i) { return list[static_cast<std::size_t>(i)]; }
-
-matrix random_matrix(std::mt19937& random, int cols, int rows, int zeros_in_ten) {
-  matrix m(cols, rows);
-  for (int i = 0; i < rows; ++i) {
-    for (int j = 0; j < cols; ++j) {
-      m[i][j] = Fp8(below(random, 10) < zeros_in_ten ? 0 : below(random, Fp8::prime));
-    }
-  }
-  return m;
-}
-
-// Row i becomes a multiple of row k, column i one of column k, so that ranks differ.
-void make_dependent(std::mt19937& random, matrix& m) {
-  const int i = below(random, m.rows());
-  const int k = below(random, m.rows());
-  const Fp8 c(below(random, Fp8::prime));
-  for (int j = 0; j < m.cols(); ++j) m[i][j] = c * m[k][j];
-  const int from = below(random, m.cols());
-  const int to = below(random, m.cols());
-  for (int row = 0; row < m.rows(); ++row) m[row][to] = c * m[row][from];
-}
-
-order random_order(std::mt19937& random, int n) {
-  order result = identity_order(n);
-  for (int i = n - 1; i > 0; --i) std::swap(at(result, i), at(result, below(random, i + 1)));
-  return result;
-}
-
-// Expands along the first row of the selection.
-int plain_determinant(const matrix& m, const order& col, const order& rr) {
-  if (col.empty()) return 1;
-  const order rows(rr.begin() + 1, rr.end());
-  int sum = 0;
-  for (std::size_t j = 0; j < col.size(); ++j) {
-    order others = col;
-    others.erase(others.begin() + static_cast<std::ptrdiff_t>(j));
-    const int product = m[rr[0]][col[j]].value() * plain_determinant(m, others, rows) % Fp8::prime;
-    sum += j % 2 == 0 ? product : Fp8::prime - product;
-  }
-  return sum % Fp8::prime;
-}
-
-TEST(MatrixProperty, MinorIsTheExpandedDeterminant) {
-  std::mt19937 random(17);
-  for (const int p : {2, 3, 101, 251}) {
-    const ring_in_force ring(p);
-    for (int round = 0; round < 150; ++round) {
-      matrix m = random_matrix(random, 7, 6, round % 8);
-      if (round % 3 == 0) make_dependent(random, m);
-      for (int n = 0; n <= 5; ++n) {
-        order col = random_order(random, 7);
-        order rr = random_order(random, 6);
-        col.resize(static_cast<std::size_t>(n));
-        rr.resize(static_cast<std::size_t>(n));
-        ASSERT_EQ(m.minor(col, rr), plain_determinant(m, col, rr)) << m;
-      }
-    }
-  }
-}
-
-// -1 for an odd permutation.
-int sign_of(order list) {
-  int sign = 1;
-  for (int i = 0; i < static_cast<int>(list.size()); ++i) {
-    while (at(list, i) != i) {
-      std::swap(at(list, i), at(list, at(list, i)));
-      sign = -sign;
-    }
-  }
-  return sign;
-}
-
-// Products of triangular matrices with exchanged rows, where the determinant is known.
-TEST(MatrixProperty, MinorOfALargeMatrixIsTheSignedProductOfThePivots) {
-  std::mt19937 random(19);
-  for (const int p : {2, 3, 101, 251}) {
-    const ring_in_force ring(p);
-    for (const int n : {15, 16, 17, 33, 70}) {
-      const order rr = random_order(random, n);
-      Fp8 expected(sign_of(rr) == 1 ? 1 : p - 1);
-      matrix upper = random_matrix(random, n, n, 3);
-      for (int i = 0; i < n; ++i) {
-        upper[i][i] = Fp8(1 + below(random, p - 1));
-        expected *= upper[i][i];
-      }
-      matrix m(n, n);
-      for (int i = 0; i < n; ++i) {
-        for (int k = 0; k <= i; ++k) {
-          const Fp8 factor(k == i ? 1 : below(random, p));
-          for (int j = k; j < n; ++j) m[i][j] += factor * upper[k][j];
-        }
-      }
-      ASSERT_EQ(m.minor(identity_order(n), rr), expected) << "p = " << p << ", n = " << n;
-    }
-  }
-}
-
 // Rank by textbook elimination on a table of ints.
 int plain_rank(const matrix& m) {
-  std::vector<order> rows;
+  std::vector<permutation> rows;
   for (int i = 0; i < m.rows(); ++i) {
-    order row;
-    for (const Fp8 x : m.row(i)) row.push_back(x.value());
+    permutation row;
+    for (const Fp8 x : m[i]) row.push_back(x.value());
     rows.push_back(row);
   }
   std::size_t found = 0;
   for (int j = 0; j < m.cols() && found < rows.size(); ++j) {
     const auto pivot = std::find_if(rows.begin() + static_cast<std::ptrdiff_t>(found), rows.end(),
-                                    [j](const order& row) { return at(row, j) != 0; });
+                                    [j](const permutation& row) { return at(row, j) != 0; });
     if (pivot == rows.end()) continue;
     std::iter_swap(rows.begin() + static_cast<std::ptrdiff_t>(found), pivot);
-    const order& leader = rows[found];
+    const permutation& leader = rows[found];
     for (std::size_t i = found + 1; i < rows.size(); ++i) {
       const int above = at(rows[i], j);
       for (int l = 0; l < m.cols(); ++l) {
@@ -145,7 +44,7 @@ int plain_rank(const matrix& m) {
 // The elimination of `solve` entry by entry: the yardstick for the orders and for every entry.
 class plain_solver {
  public:
-  plain_solver(matrix& a, order& c, order& r) : a_(a), c_(c), r_(r) {}
+  plain_solver(matrix& a, permutation& c, permutation& r) : a_(a), c_(c), r_(r) {}
 
   int run() {
     int d = a_.cols();
@@ -199,18 +98,18 @@ class plain_solver {
   }
 
   matrix& a_;
-  order& c_;
-  order& r_;
+  permutation& c_;
+  permutation& r_;
 };
 
-void expect_permutation(order list) {
+void expect_permutation(permutation list) {
   std::sort(list.begin(), list.end());
   ASSERT_EQ(list, identity_order(static_cast<int>(list.size())));
 }
 
 // The kernel vector with free unknown c[l] = 1, as callers read it off.
-std::vector<Fp8> kernel_vector(const matrix& solved, const order& c, const order& r, int rank_found,
-                               int l) {
+std::vector<Fp8> kernel_vector(const matrix& solved, const permutation& c, const permutation& r,
+                               int rank_found, int l) {
   std::vector<Fp8> v(c.size());
   v[static_cast<std::size_t>(at(c, l))] = Fp8(1);
   for (int k = 0; k < rank_found; ++k) {
@@ -239,21 +138,21 @@ void for_random_systems(std::initializer_list<int> primes, Check check) {
       matrix m = random_matrix(random, 1 + below(random, 9), 1 + below(random, 9), round % 10);
       if (round % 2 == 0) make_dependent(random, m);
       const bool identity = round % 3 != 0;
-      const order c = identity ? identity_order(m.cols()) : random_order(random, m.cols());
-      const order r = identity ? identity_order(m.rows()) : random_order(random, m.rows());
+      const permutation c = identity ? identity_order(m.cols()) : random_order(random, m.cols());
+      const permutation r = identity ? identity_order(m.rows()) : random_order(random, m.rows());
       check(m, c, r);
     }
   }
 }
 
-void expect_plain_elimination(const matrix& m, const order& c, const order& r) {
+void expect_plain_elimination(const matrix& m, const permutation& c, const permutation& r) {
   matrix expected = m;
-  order expected_c = c;
-  order expected_r = r;
+  permutation expected_c = c;
+  permutation expected_r = r;
   const int d = plain_solver(expected, expected_c, expected_r).run();
   matrix found = m;
-  order found_c = c;
-  order found_r = r;
+  permutation found_c = c;
+  permutation found_r = r;
   ASSERT_EQ(found.solve(found_c, found_r), d) << m;
   ASSERT_EQ(found_c, expected_c) << m;
   ASSERT_EQ(found_r, expected_r) << m;
@@ -282,7 +181,7 @@ TEST(MatrixProperty, SolveOfLargeSystemsIsTheEliminationEntryByEntry) {
 
 TEST(MatrixProperty, SolveCountsTheUnknownsBeyondTheRank) {
   // cppcheck-suppress passedByValue ; both are permuted
-  for_random_systems({2, 3, 101, 251}, [](const matrix& m, order c, order r) {
+  for_random_systems({2, 3, 101, 251}, [](const matrix& m, permutation c, permutation r) {
     const int expected = plain_rank(m);
     matrix solved = m;
     ASSERT_EQ(solved.solve(c, r), m.cols() - expected) << m;
@@ -293,7 +192,7 @@ TEST(MatrixProperty, SolveCountsTheUnknownsBeyondTheRank) {
 }
 
 TEST(MatrixProperty, SolveHoldsABasisOfTheKernel) {
-  for_random_systems({2, 3, 101, 251}, [](const matrix& m, order c, order r) {
+  for_random_systems({2, 3, 101, 251}, [](const matrix& m, permutation c, permutation r) {
     matrix solved = m;
     const int d = solved.solve(c, r);
     const int rank_found = m.cols() - d;
@@ -309,11 +208,7 @@ TEST(MatrixProperty, SolveHoldsABasisOfTheKernel) {
 }
 
 TEST(MatrixProperty, NothingBreaksInACompositeCharacteristic) {
-  for_random_systems({4, 6, 250}, [](const matrix& m, order c, order r) {
-    const int n = std::min(m.cols(), m.rows());
-    const std::span<const int> col = std::span(c).first(static_cast<std::size_t>(n));
-    const std::span<const int> rr = std::span(r).first(static_cast<std::size_t>(n));
-    ASSERT_LT(m.minor(col, rr).value(), Fp8::prime);
+  for_random_systems({4, 6, 250}, [](const matrix& m, permutation c, permutation r) {
     matrix solved = m;
     const int d = solved.solve(c, r);
     ASSERT_GE(d, 0);
@@ -321,7 +216,7 @@ TEST(MatrixProperty, NothingBreaksInACompositeCharacteristic) {
     expect_permutation(c);
     expect_permutation(r);
     for (int i = 0; i < m.rows(); ++i) {
-      for (const Fp8 x : solved.row(i)) ASSERT_LT(x.value(), Fp8::prime);
+      for (const Fp8 x : solved[i]) ASSERT_LT(x.value(), Fp8::prime);
     }
   });
 }

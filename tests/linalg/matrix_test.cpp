@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "tests/linalg/matrix_of.h"
@@ -15,8 +13,6 @@ namespace zep::tests {
 namespace {
 
 using order = std::vector<int>;
-
-int minor(const matrix& m, const order& col, const order& rr) { return m.minor(col, rr).value(); }
 
 // Outcome of `solve` from the identity orders.
 struct solution {
@@ -37,8 +33,8 @@ TEST(Matrix, TakesColumnsFirstAndIsZero) {
   EXPECT_EQ(m.cols(), 3);
   EXPECT_EQ(m.rows(), 2);
   for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(m.row(i).size(), 3U);
-    for (const Fp8 x : m.row(i)) EXPECT_EQ(x, 0);
+    EXPECT_EQ(m[i].size(), 3U);
+    for (const Fp8 x : m[i]) EXPECT_EQ(x, 0);
   }
 }
 
@@ -46,6 +42,34 @@ TEST(Matrix, NegativeCountsAreZero) {
   const matrix m(-1, -5);
   EXPECT_EQ(m.cols(), 0);
   EXPECT_EQ(m.rows(), 0);
+}
+
+TEST(Matrix, HoldsItsRowsOneBehindTheOther) {
+  const matrix m = matrix_of({{1, 2, 3}, {4, 5, 6}});
+  EXPECT_EQ(m[1].data(), m[0].data() + 3);
+  EXPECT_EQ(m[1].size(), 3U);
+}
+
+TEST(Matrix, RowsAreViewsThatChangeIt) {
+  matrix m = matrix_of({{1, 2, 3}, {4, 5, 6}});
+  const row_view second = m[1];
+  second[2] = Fp8(9);
+  EXPECT_EQ(m, matrix_of({{1, 2, 3}, {4, 5, 9}}));
+}
+
+TEST(Matrix, RowsOfAMatrixWithoutColumnsAreEmpty) {
+  const matrix m(0, 2);
+  EXPECT_TRUE(m[0].empty());
+  EXPECT_TRUE(m[1].empty());
+}
+
+TEST(MatrixDeathTest, HasNoOtherRowsInTheParanoidBuild) {
+  if (!paranoid) GTEST_SKIP() << "checked in the paranoid build";
+  matrix m(3, 2);
+  const matrix& fixed = m;
+  EXPECT_DEATH(m[2][0] = Fp8(1), "a row is one of the matrix");
+  EXPECT_DEATH(m[-1][0] = Fp8(1), "a row is one of the matrix");
+  EXPECT_DEATH(static_cast<void>(fixed[2]), "a row is one of the matrix");
 }
 
 TEST(Matrix, CopiesAreDeep) {
@@ -67,69 +91,9 @@ TEST(Matrix, EqualityComparesShapes) {
   EXPECT_TRUE(matrix(2, 3) == matrix(2, 3));
 }
 
-TEST(Matrix, InitSetsEveryEntryToZero) {
-  matrix m = matrix_of({{1, 2, 3}, {4, 5, 6}});
-  m.init();
-  EXPECT_EQ(m, matrix(3, 2));
-}
-
 TEST(Matrix, IdentityOrderCountsUp) {
   EXPECT_EQ(identity_order(4), (order{0, 1, 2, 3}));
   EXPECT_EQ(identity_order(0), order{});
-}
-
-TEST(Matrix, MinorOfOneEntryIsTheEntry) {
-  const ring_in_force ring;
-  const matrix m = matrix_of({{1, 2}, {3, 0}});
-  EXPECT_EQ(minor(m, {1}, {0}), 2);
-  EXPECT_EQ(minor(m, {0}, {1}), 3);
-  EXPECT_EQ(minor(m, {1}, {1}), 0);
-}
-
-TEST(Matrix, MinorOfNothingIsOne) {
-  const ring_in_force ring;
-  EXPECT_EQ(minor(matrix(3, 3), {}, {}), 1);
-}
-
-TEST(Matrix, MinorWithAZeroColumnIsZero) {
-  const ring_in_force ring;
-  const matrix m = matrix_of({{1, 0, 2}, {3, 0, 4}, {5, 0, 7}});
-  EXPECT_EQ(minor(m, {0, 1, 2}, {0, 1, 2}), 0);
-  EXPECT_EQ(minor(m, {1, 0}, {0, 2}), 0);
-}
-
-TEST(Matrix, MinorOfARankDeficientSelectionIsZero) {
-  const ring_in_force ring;
-  const matrix m = matrix_of({{1, 2, 3}, {2, 4, 6}, {1, 1, 1}});
-  EXPECT_EQ(minor(m, {0, 1, 2}, {0, 1, 2}), 0);
-  EXPECT_EQ(minor(m, {0, 1}, {2, 2}), 0);
-}
-
-TEST(Matrix, MinorChangesSignWhenTwoRowsOrColumnsAreExchanged) {
-  const ring_in_force ring;
-  const matrix m = matrix_of({{1, 2, 3}, {4, 5, 6}, {7, 8, 10}});
-  EXPECT_EQ(minor(m, {0, 1, 2}, {0, 1, 2}), 98);
-  EXPECT_EQ(minor(m, {0, 1, 2}, {1, 0, 2}), 3);
-  EXPECT_EQ(minor(m, {2, 1, 0}, {0, 1, 2}), 3);
-  EXPECT_EQ(minor(m, {1, 2, 0}, {0, 1, 2}), 98);
-}
-
-TEST(Matrix, MinorExchangesRowsForAPivot) {
-  const ring_in_force ring;
-  EXPECT_EQ(minor(matrix_of({{0, 1}, {1, 0}}), {0, 1}, {0, 1}), 100);
-  EXPECT_EQ(minor(matrix_of({{0, 0, 1}, {1, 0, 0}, {0, 1, 0}}), {0, 1, 2}, {0, 1, 2}), 1);
-  EXPECT_EQ(minor(matrix_of({{1, 1, 0}, {1, 1, 1}, {0, 1, 0}}), {0, 1, 2}, {0, 1, 2}), 100);
-}
-
-TEST(Matrix, MinorChangesNeitherMatrixNorLists) {
-  const ring_in_force ring;
-  const matrix m = matrix_of({{0, 2}, {3, 4}});
-  const order col = {1, 0};
-  const order rr = {0, 1};
-  EXPECT_EQ(minor(m, col, rr), 6);
-  EXPECT_EQ(m, matrix_of({{0, 2}, {3, 4}}));
-  EXPECT_EQ(col, (order{1, 0}));
-  EXPECT_EQ(rr, (order{0, 1}));
 }
 
 TEST(Matrix, SolveOfAZeroMatrixLeavesEveryUnknownFree) {
@@ -260,38 +224,6 @@ TEST(Matrix, PrintsEmptyBracketsWithoutColumns) {
             "[  ]\n"
             "[  ]\n"
             "[  ]\n");
-}
-
-TEST(Matrix, ReadsRowByRow) {
-  const ring_in_force ring;
-  std::istringstream in("1 -1 3/2\n4 5 6 7");
-  matrix m(3, 2);
-  EXPECT_TRUE(in >> m);
-  EXPECT_EQ(m, matrix_of({{1, 100, 52}, {4, 5, 6}}));
-  std::string rest;
-  in >> rest;
-  EXPECT_EQ(rest, "7");
-}
-
-TEST(Matrix, ReadingStopsAtAMalformedNumber) {
-  const ring_in_force ring;
-  std::istringstream in("1 2 x 4");
-  matrix m = matrix_of({{9, 9}, {9, 9}});
-  EXPECT_FALSE(in >> m);
-  EXPECT_FALSE(in.eof());
-  EXPECT_EQ(m, matrix_of({{1, 2}, {0, 0}}));
-  in.clear();
-  std::string rest;
-  in >> rest;
-  EXPECT_EQ(rest, "x");
-}
-
-TEST(Matrix, ReadingTooFewNumbersMeetsTheEnd) {
-  const ring_in_force ring;
-  std::istringstream in("1 2 3");
-  matrix m(2, 2);
-  EXPECT_FALSE(in >> m);
-  EXPECT_TRUE(in.eof());
 }
 
 }  // namespace

@@ -5,14 +5,13 @@
 #include <random>
 #include <vector>
 
+#include "base/paranoid.h"
 #include "tests/draw.h"
 #include "tests/linalg/variant_in_force.h"
 #include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
-
-using row = std::vector<Fp8>;
 
 // In bytes; no variant has a wider one.
 constexpr std::size_t widest_vector = 64;
@@ -52,16 +51,24 @@ row random_row(std::mt19937& random, std::size_t n) {
 // A row with room for n elements at every offset below the margin, and for a margin behind them.
 row padded_row(std::mt19937& random, std::size_t n) { return random_row(random, n + 2 * margin); }
 
-void axpy_with_tables(Fp8* d, const Fp8* s, Fp8 c, std::size_t n) {
-  for (std::size_t i = 0; i < n; ++i) d[i] = d[i] + c * s[i];
+// The n elements from an offset on.
+row_view stretch(row& all, std::size_t offset, std::size_t n) {
+  return row_view(all).subspan(offset, n);
+}
+const_row_view stretch(const row& all, std::size_t offset, std::size_t n) {
+  return const_row_view(all).subspan(offset, n);
 }
 
-void scale_with_tables(Fp8* d, Fp8 c, std::size_t n) {
-  for (std::size_t i = 0; i < n; ++i) d[i] = c * d[i];
+void axpy_with_tables(row_view d, const_row_view s, Fp8 c) {
+  for (std::size_t i = 0; i < d.size(); ++i) d[i] = d[i] + c * s[i];
 }
 
-void product_with_tables(Fp8* d, const Fp8* a, const Fp8* b, std::size_t n) {
-  for (std::size_t i = 0; i < n; ++i) d[i] = a[i] * b[i];
+void scale_with_tables(row_view d, Fp8 c) {
+  for (Fp8& x : d) x = c * x;
+}
+
+void product_with_tables(row_view d, const_row_view a, const_row_view b) {
+  for (std::size_t i = 0; i < d.size(); ++i) d[i] = a[i] * b[i];
 }
 
 // Whole padded rows are compared: nothing outside the n elements may change.
@@ -69,11 +76,11 @@ void expect_operations_agree(const row& a, const row& b, Fp8 c, std::size_t n, s
                              std::size_t offset_b) {
   row expected = a;
   row found = a;
-  axpy_with_tables(expected.data() + offset_a, b.data() + offset_b, c, n);
-  axpy(found.data() + offset_a, b.data() + offset_b, c, n);
+  axpy_with_tables(stretch(expected, offset_a, n), stretch(b, offset_b, n), c);
+  axpy(stretch(found, offset_a, n), stretch(b, offset_b, n), c);
   ASSERT_TRUE(found == expected) << "axpy, c = " << c << ", n = " << n;
-  scale_with_tables(expected.data() + offset_a, c, n);
-  scale(found.data() + offset_a, c, n);
+  scale_with_tables(stretch(expected, offset_a, n), c);
+  scale(stretch(found, offset_a, n), c);
   ASSERT_TRUE(found == expected) << "scale, c = " << c << ", n = " << n;
 }
 
@@ -121,7 +128,7 @@ TEST_P(RowOperations, AxpyIsExactForEveryTripleOfElements) {
     for (int d = 0; d < p; ++d) {
       for (int c = 0; c < p; ++c) {
         row found(n, Fp8(d));
-        axpy(found.data(), s.data(), Fp8(c), n);
+        axpy(found, s, Fp8(c));
         for (int i = 0; i < p; ++i) {
           wrong += found[static_cast<std::size_t>(i)].value() != (d + c * i) % p;
         }
@@ -141,8 +148,8 @@ TEST_P(RowOperations, PointwiseProductAgreesWithTheTables) {
         const row b = padded_row(random, n);
         row expected = padded_row(random, n);
         row found = expected;
-        product_with_tables(expected.data() + 1, a.data() + offset, b.data() + 2, n);
-        pointwise_product(found.data() + 1, a.data() + offset, b.data() + 2, n);
+        product_with_tables(stretch(expected, 1, n), stretch(a, offset, n), stretch(b, 2, n));
+        pointwise_product(stretch(found, 1, n), stretch(a, offset, n), stretch(b, 2, n));
         ASSERT_TRUE(found == expected) << "p = " << p << ", n = " << n;
       }
     }
@@ -157,24 +164,24 @@ TEST_P(RowOperations, PointwiseProductMayReplaceItsFactors) {
       const row a = random_row(random, n);
       const row b = random_row(random, n);
       row expected(n);
-      product_with_tables(expected.data(), a.data(), b.data(), n);
+      product_with_tables(expected, a, b);
       row d = a;
-      pointwise_product(d.data(), d.data(), b.data(), n);
+      pointwise_product(d, d, b);
       EXPECT_TRUE(d == expected) << "first factor, p = " << p << ", n = " << n;
       d = b;
-      pointwise_product(d.data(), a.data(), d.data(), n);
+      pointwise_product(d, a, d);
       EXPECT_TRUE(d == expected) << "second factor, p = " << p << ", n = " << n;
       d = a;
-      product_with_tables(expected.data(), a.data(), a.data(), n);
-      pointwise_product(d.data(), d.data(), d.data(), n);
+      product_with_tables(expected, a, a);
+      pointwise_product(d, d, d);
       EXPECT_TRUE(d == expected) << "both factors, p = " << p << ", n = " << n;
     }
   }
 }
 
-Fp8 dot_with_tables(const Fp8* a, const Fp8* b, std::size_t n) {
+Fp8 dot_with_tables(const_row_view a, const_row_view b) {
   Fp8 sum(0);
-  for (std::size_t i = 0; i < n; ++i) sum += a[i] * b[i];
+  for (std::size_t i = 0; i < a.size(); ++i) sum += a[i] * b[i];
   return sum;
 }
 
@@ -186,8 +193,8 @@ TEST_P(RowOperations, DotAgreesWithTheTables) {
       for (std::size_t offset = 0; offset < margin; offset += 3) {
         const row a = padded_row(random, n);
         const row b = padded_row(random, n);
-        ASSERT_EQ(dot(a.data() + offset, b.data() + 2, n),
-                  dot_with_tables(a.data() + offset, b.data() + 2, n))
+        ASSERT_EQ(dot(stretch(a, offset, n), stretch(b, 2, n)),
+                  dot_with_tables(stretch(a, offset, n), stretch(b, 2, n)))
             << "p = " << p << ", n = " << n;
       }
     }
@@ -198,8 +205,41 @@ TEST_P(RowOperations, DotIsExactWhereItsSumsAreLargest) {
   const ring_in_force ring(251);
   for (const std::size_t n : {32767U, 32768U, 32769U, 65536U, 100000U}) {
     const row greatest(n, Fp8(250));
-    EXPECT_EQ(dot(greatest.data(), greatest.data(), n).value(), n % 251) << n;
+    EXPECT_EQ(dot(greatest, greatest).value(), n % 251) << n;
   }
+}
+
+// What a call with rows of different lengths says when it ends the process.
+constexpr char one_length[] = "rows of one call have one length";
+
+TEST(RowOperationsDeathTest, RowsOfAxpyHaveOneLengthInTheParanoidBuild) {
+  if (!paranoid) GTEST_SKIP() << "checked in the paranoid build";
+  const ring_in_force ring;
+  row longer(5);
+  row shorter(4);
+  for (const int c : {0, 1, 2, 100}) {
+    EXPECT_DEATH(axpy(longer, shorter, Fp8(c)), one_length) << c;
+    EXPECT_DEATH(axpy(shorter, longer, Fp8(c)), one_length) << c;
+  }
+}
+
+TEST(RowOperationsDeathTest, RowsOfAPointwiseProductHaveOneLengthInTheParanoidBuild) {
+  if (!paranoid) GTEST_SKIP() << "checked in the paranoid build";
+  const ring_in_force ring;
+  row longer(5);
+  row shorter(4);
+  EXPECT_DEATH(pointwise_product(shorter, longer, longer), one_length);
+  EXPECT_DEATH(pointwise_product(longer, shorter, longer), one_length);
+  EXPECT_DEATH(pointwise_product(longer, longer, shorter), one_length);
+}
+
+TEST(RowOperationsDeathTest, RowsOfADotProductHaveOneLengthInTheParanoidBuild) {
+  if (!paranoid) GTEST_SKIP() << "checked in the paranoid build";
+  const ring_in_force ring;
+  const row longer(5);
+  const row shorter(4);
+  EXPECT_DEATH(static_cast<void>(dot(longer, shorter)), one_length);
+  EXPECT_DEATH(static_cast<void>(dot(shorter, longer)), one_length);
 }
 
 }  // namespace

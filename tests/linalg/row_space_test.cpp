@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -28,7 +29,7 @@ matrix rows_of_low_rank(int cols, int rows, int bound, std::mt19937& random) {
 
 matrix first_rows(const matrix& m, int rows) {
   matrix part(m.cols(), rows);
-  for (int i = 0; i < rows; ++i) std::copy(m.row(i).begin(), m.row(i).end(), part[i]);
+  for (int i = 0; i < rows; ++i) std::copy(m[i].begin(), m[i].end(), part[i].begin());
   return part;
 }
 
@@ -41,7 +42,7 @@ TEST(RowSpace, TellsTheRowsThatRaiseTheRank) {
       row_space space(m.cols());
       for (int i = 0; i < m.rows(); ++i) {
         const bool raises = rank(first_rows(m, i + 1)) > rank(first_rows(m, i));
-        EXPECT_EQ(space.add({m.row(i).begin(), m.row(i).end()}), raises);
+        EXPECT_EQ(space.add({m[i].begin(), m[i].end()}), raises);
         EXPECT_EQ(space.rank(), rank(first_rows(m, i + 1)));
       }
     }
@@ -53,13 +54,13 @@ TEST(RowSpace, KeepsABasisOfWhatItWasGiven) {
   const ring_in_force ring(101);
   const matrix m = rows_of_low_rank(10, 15, 4, random);
   row_space space(10);
-  for (int i = 0; i < 15; ++i) space.add({m.row(i).begin(), m.row(i).end()});
+  for (int i = 0; i < 15; ++i) space.add({m[i].begin(), m[i].end()});
   const matrix basis = space.basis();
   EXPECT_EQ(basis.rows(), rank(m));
   matrix both(10, 15 + basis.rows());
-  for (int i = 0; i < 15; ++i) std::copy(m.row(i).begin(), m.row(i).end(), both[i]);
+  for (int i = 0; i < 15; ++i) std::copy(m[i].begin(), m[i].end(), both[i].begin());
   for (int i = 0; i < basis.rows(); ++i) {
-    std::copy(basis.row(i).begin(), basis.row(i).end(), both[15 + i]);
+    std::copy(basis[i].begin(), basis[i].end(), both[15 + i].begin());
   }
   EXPECT_EQ(rank(basis), basis.rows());
   EXPECT_EQ(rank(both), rank(m));
@@ -71,7 +72,7 @@ TEST(RowSpace, HasRowsWithOneAtTheirPivotAndZeroAtThoseBefore) {
     const ring_in_force ring(p);
     const matrix m = rows_of_low_rank(12, 15, 6, random);
     row_space space(12);
-    for (int i = 0; i < 15; ++i) space.add({m.row(i).begin(), m.row(i).end()});
+    for (int i = 0; i < 15; ++i) space.add({m[i].begin(), m[i].end()});
     const matrix basis = space.basis();
     ASSERT_EQ(space.pivots().size(), static_cast<std::size_t>(basis.rows()));
     for (int i = 0; i < basis.rows(); ++i) {
@@ -87,7 +88,7 @@ TEST(RowSpace, OfNothingIsZero) {
   const ring_in_force ring(101);
   row_space space(3);
   EXPECT_EQ(space.basis(), matrix(3, 0));
-  EXPECT_FALSE(space.add(std::vector<Fp8>(3)));
+  EXPECT_FALSE(space.add(row(3)));
   EXPECT_EQ(space.rank(), 0);
   row_space narrow(0);
   EXPECT_FALSE(narrow.add({}));
@@ -104,7 +105,7 @@ TEST(RowSpace, StandsForAllRowsInSolve) {
       matrix m =
           rows_of_low_rank(1 + below(random, 7), 1 + below(random, 9), below(random, 6), random);
       row_space space(m.cols());
-      for (int i = 0; i < m.rows(); ++i) space.add({m.row(i).begin(), m.row(i).end()});
+      for (int i = 0; i < m.rows(); ++i) space.add({m[i].begin(), m[i].end()});
       matrix few = space.basis();
       matrix fewer_steps = few;
 

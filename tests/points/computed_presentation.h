@@ -11,11 +11,8 @@
 
 namespace zep::tests {
 
-inline scheme computed(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  omega(X);
-  return X;
+inline presentation computed(const std::vector<coordinates>& points) {
+  return omega(walked(points), nobody());
 }
 
 // With all exponents, that of X_0 last.
@@ -29,19 +26,20 @@ inline plain_form projective_form_of(const polynomial& f) {
   return terms;
 }
 
-inline plain_presentation presentation_of(const scheme& X) {
+inline plain_presentation presentation_of(const presentation& w_R) {
   plain_presentation result;
-  for (const int position : X.pr) result.generators.push_back(exponents_of(X.O[position]));
-  for (int j = 0; j < X.A_d_cols; ++j) {
+  for (const monom& t : w_R.pr_monom) result.generators.push_back(exponents_of(t));
+  for (int j = 0; j < w_R.A_d_cols; ++j) {
     plain_relation relation;
-    for (int i = 0; i < no_of_pr(X); ++i)
-      relation.push_back(projective_form_of(entry_of_A_d(X, i, j)));
+    for (int i = 0; i < w_R.no_of_pr(); ++i) {
+      relation.push_back(projective_form_of(w_R.entry(i, j)));
+    }
     result.relations.push_back(relation);
   }
   return result;
 }
 
-inline plain_presentation presentation(const std::vector<coordinates>& points) {
+inline plain_presentation plain_presentation_of(const std::vector<coordinates>& points) {
   return presentation_of(computed(points));
 }
 
@@ -50,7 +48,7 @@ inline faults faults_of(const std::vector<coordinates>& points, const plain_pres
 }
 
 inline faults faults_of_computed(const std::vector<coordinates>& points) {
-  return faults_of(points, presentation(points));
+  return faults_of(points, plain_presentation_of(points));
 }
 
 // Calls check(points) for random sets, and for such sets in a hyperplane.
@@ -60,7 +58,7 @@ void for_each_random_or_flat_set(int rounds, Check check) {
     check(points);
     std::set<coordinates> flat;
     for (coordinates point : points) {
-      point[monom_ordering == 0 ? 0 : dim - 1] = 1;
+      point[current_ring().order == term_order::deglex ? 0 : dim - 1] = 1;
       flat.insert(point);
     }
     check(std::vector<coordinates>(flat.begin(), flat.end()));

@@ -1,4 +1,4 @@
-// What a computation writes.
+// What a computation writes and tells.
 #pragma once
 
 #include <sstream>
@@ -8,30 +8,31 @@
 
 namespace zep::tests {
 
-// On a stream that it was given, on standard output, on standard error.
+// On a stream that it was given, and as its reporter has it: on standard output, on standard error.
 struct written {
   std::string given;
   std::string out;
   std::string err;
 };
 
-// Runs compute(stream).
+// Runs compute(stream, reporter).
 template <class Compute>
 written by(Compute compute) {
-  const silence quiet;
+  told reporter;
   std::ostringstream given;
-  compute(given);
-  return {given.str(), quiet.out.text(), quiet.err.text()};
+  compute(given, reporter);
+  return {given.str(), reporter.out, reporter.err};
 }
 
-// Runs compute(standard output). What comes of it on a screen that shows both standard streams.
-template <class Compute>
-std::string on_screen(Compute compute) {
-  const captured screen(std::cout);
-  const captured err(std::cerr);
-  std::cerr.rdbuf(std::cout.rdbuf());
-  compute(std::cout);
-  return screen.text();
-}
+// A set that remembers, with what it tells.
+struct told_set {
+  explicit told_set(const std::vector<coordinates>& points) : X(make_set(points, reporter)) {}
+  ~told_set() = default;
+  told_set(const told_set&) = delete;
+  told_set& operator=(const told_set&) = delete;
+
+  told reporter;
+  scheme X;
+};
 
 }  // namespace zep::tests

@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "points/module/polynomial_rows.h"
+#include "arith/ordering.h"
+#include "reference/polynomial_rows.h"
 #include "tests/text_of.h"
 
 namespace zep::tests {
@@ -14,9 +17,18 @@ namespace zep::tests {
 using dense_row = std::vector<polynomial>;
 using dense_matrix = std::vector<dense_row>;
 
+// The entries, put together term by term.
 inline dense_row entries_of(const polynomial_row& row) {
+  std::vector<std::vector<monom>> monoms(row.cols());
+  std::vector<std::vector<Fp8>> coefs(row.cols());
+  for (const polynomial_row::term& t : row.terms()) {
+    monoms[t.column].push_back(t.m);
+    coefs[t.column].push_back(t.c);
+  }
   dense_row entries;
-  for (int j = 0; j < row.cols(); ++j) entries.push_back(row.entry(j));
+  for (int j = 0; j < row.cols(); ++j) {
+    entries.emplace_back(std::move(monoms[j]), std::move(coefs[j]));
+  }
   return entries;
 }
 

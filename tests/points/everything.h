@@ -1,170 +1,238 @@
-// Everything that can be done with a scheme, and everything that a scheme has.
+// Everything that can be computed for a set of points, and everything that can be known of one.
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <ostream>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "base/output.h"
-#include "points/ideal/gorenstein.h"
-#include "points/ideal/minimal_generators.h"
-#include "points/ideal/socle.h"
-#include "points/module/canonical_module.h"
 #include "points/record/scheme.h"
-#include "points/strand/linid.h"
-#include "points/strand/linom.h"
-#include "points/walk/beta_matrix.h"
-#include "points/walk/buchberger_moeller.h"
-#include "points/walk/general_position.h"
-#include "points/walk/invariants.h"
-#include "points/walk/separators.h"
-#include "points/walk/uniformity.h"
 #include "tests/points/special_sets.h"
-#include "text/record.h"
 
 namespace zep::tests {
 
+// Something that is done with a set, and that may write.
 struct named_command {
   const char* name;
   void (*run)(std::ostream& out, scheme& X);
 };
 
-inline const std::vector<named_command>& all_commands() {
-  static const std::vector<named_command> commands = {
-      {"bumo", [](std::ostream&, scheme& X) { need_bu_mo(X); }},
-      {"alpha", alpha_X},
-      {"sigma", sigma_X},
-      {"delta", delta_X},
-      {"gbasis", groebner},
-      {"orderideal", order_ideal},
-      {"hilbertfn", hilb_fct},
-      {"deltafn", delta_fct},
-      {"sep", separators},
-      {"is_cb", is_CB},
-      {"is_gor", is_ar_Go},
-      {"betamat", disp_beta_matrix},
-      {"is_duf", is_delta_uf},
-      {"is_uf", [](std::ostream& out, scheme& X) { is_n_uf(out, X, 2); }},
-      {"lingenpos", lingenpos},
-      {"min", disp_min},
-      {"mindegs", deg_min},
-      {"socle", disp_socle},
-      {"type", typ},
-      {"omega", disp_omega},
-      {"omegamat", disp_omegamat},
-      {"linid",
+// Writes the vectors of a level, short ones.
+inline void put_level(std::ostream& out, int level, const form_vectors& vectors) {
+  out << "level " << level << ": " << vectors.no_of_nonzero() << " of " << vectors.count() << "\n";
+}
+
+// All that a scheme computes. What it does not keep is written.
+inline const std::vector<named_command>& all_computations() {
+  static const std::vector<named_command> computations = {
+      {"bu_mo", [](std::ostream&, scheme& X) { X.bu_mo(); }},
+      {"sep", [](std::ostream&, scheme& X) { X.sep(); }},
+      {"beta_matrix", [](std::ostream&, scheme& X) { X.beta_matrix(); }},
+      {"Can_Lf", [](std::ostream&, scheme& X) { X.Can_Lf(); }},
+      {"min_Ix", [](std::ostream&, scheme& X) { X.min_Ix(); }},
+      {"socle", [](std::ostream&, scheme& X) { X.socle(); }},
+      {"omega", [](std::ostream&, scheme& X) { X.omega(); }},
+      {"is_CB", [](std::ostream& out, scheme& X) { out << X.is_CB(); }},
+      {"is_ar_Go", [](std::ostream& out, scheme& X) { out << X.is_ar_Go(); }},
+      {"dependent_separators",
        [](std::ostream& out, scheme& X) {
-         linid(X);
-         disp_linid(out, X);
+         const int delta = X.bu_mo().H.delta;
+         for (const int k : {std::min(2, delta), delta}) {
+           const auto dependent = X.dependent_separators(k);
+           out << (dependent ? "dependent:" : "independent");
+           if (!dependent) continue;
+           for (const int i : *dependent) out << " " << i;
+         }
        }},
-      {"linom",
+      {"linid", [](std::ostream&, scheme& X) { X.linid(); }},
+      {"linom", [](std::ostream&, scheme& X) { X.linom(); }},
+      {"linid and linom",
+       [](std::ostream&, scheme& X) {
+         X.linid();
+         X.linom();
+       }},
+      {"linid level by level",
        [](std::ostream& out, scheme& X) {
-         linom(X);
-         disp_linom(out, X);
+         const auto put = [&](int level, const form_vectors& vectors) {
+           put_level(out, level, vectors);
+         };
+         X.linid(put, scheme::numbers::stay);
        }},
-      {"linres",
+      {"linom level by level",
        [](std::ostream& out, scheme& X) {
-         linid(X);
-         linom(X);
-         disp_linres(out, X);
+         const auto put = [&](int level, const form_vectors& vectors) {
+           put_level(out, level, vectors);
+           return true;
+         };
+         X.linom(put, scheme::numbers::count);
        }},
-      {"linsyz", linsyz},
-      {"linomsyz", linomsyz},
-      {"putlinid", putlinid},
-      {"putlinom", putlinom},
-      {"putlinsyz", putlinsyz},
-      {"putlinomsyz", putlinomsyz},
-      {"display", [](std::ostream& out, scheme& X) { out << X; }},
+      {"linom up to the relations",
+       [](std::ostream& out, scheme& X) {
+         const auto put = [&](int level, const form_vectors& vectors) {
+           put_level(out, level, vectors);
+           return false;
+         };
+         X.linom(put, scheme::numbers::stay);
+       }},
   };
-  return commands;
+  return computations;
 }
 
 // Ways to come to a scheme that some things have been computed for.
 inline const std::vector<named_command>& histories() {
   static const std::vector<named_command> all = {
       {"nothing", [](std::ostream&, scheme&) {}},
-      {"bumo", [](std::ostream&, scheme& X) { need_bu_mo(X); }},
-      {"is_gor", is_ar_Go},
-      {"betamat and linsyz",
-       [](std::ostream& out, scheme& X) {
-         disp_beta_matrix(out, X);
-         linsyz(out, X);
+      {"bu_mo", [](std::ostream&, scheme& X) { X.bu_mo(); }},
+      {"is_ar_Go", [](std::ostream&, scheme& X) { X.is_ar_Go(); }},
+      {"beta_matrix and linid level by level",
+       [](std::ostream&, scheme& X) {
+         X.beta_matrix();
+         X.linid([](int, const form_vectors&) {}, scheme::numbers::stay);
        }},
       {"everything",
        [](std::ostream& out, scheme& X) {
-         for (const named_command& c : all_commands()) c.run(out, X);
+         for (const named_command& c : all_computations()) c.run(out, X);
        }},
   };
   return all;
 }
 
-// Writes all fields of a scheme, so that equal texts mean equal schemes. The multiplication in the
-// Artinian reduction is only told by its size, the indices by what they say of their lists.
-inline std::string contents(const scheme& X) {
-  // Names every field: a new one has to be added.
-  const auto& [s, P, has_bu_mo, O, O_index, B, B_index, Ix, separator, hilb_fct, delta_fct, sigma,
-               delta, alpha, sep, is_CB, is_ar_Go, beta_matrix, basis, Can_Lf, min_Ix, socle, pr,
-               pr_deg, A_d_cols, A_d, A_d_maxdeg, A_d_coldeg, linres, linid, linom] = X;
-  std::ostringstream out;
-  const int column = counter;
-  const auto put_number = [&](int n) { out << n << " "; };
-  const auto put_all = [&](const std::vector<int>& numbers) {
-    put_number(static_cast<int>(numbers.size()));
-    std::for_each(numbers.begin(), numbers.end(), put_number);
-    out << "\n";
-  };
-  const auto put_matrix = [&](const matrix& m) {
-    out << m.rows() << " x " << m.cols() << "\n";
-    for (int i = 0; i < m.rows(); ++i) {
-      for (const Fp8 x : m.row(i)) put_number(x.value());
+// Writes contents, so that equal texts mean equal contents.
+class contents_text {
+ public:
+  void put(int n) { out_ << n << " "; }
+  void put(const std::vector<int>& numbers) {
+    put(static_cast<int>(numbers.size()));
+    for (const int n : numbers) put(n);
+    out_ << "\n";
+  }
+  void put(const_row_view row) {
+    for (const Fp8 x : row) put(x.value());
+    out_ << "\n";
+  }
+  void put(const matrix& m) {
+    out_ << m.rows() << " x " << m.cols() << "\n";
+    for (int i = 0; i < m.rows(); ++i) put(m[i]);
+  }
+  void put(const std::vector<monom>& list) {
+    for (const monom& t : list) out_ << t << " of " << t.dim() << ", ";
+    out_ << "\n";
+  }
+  // The index by what it says of its list.
+  void put(const std::vector<monom>& list, const monom_index& index) {
+    put(list);
+    for (const monom& t : list) put(index.find(t));
+    out_ << "\n";
+  }
+  void put(const std::vector<polynomial>& list) {
+    put(static_cast<int>(list.size()));
+    for (const polynomial& f : list) {
+      f.put(out_);
+      out_ << "\n";
     }
-    out << "\n";
-  };
-  const auto put_monomials = [&](const std::vector<monom>& list, const monom_index& index) {
-    for (const monom& t : list) out << t << " at " << index.find(t) << ", ";
-    out << "\n";
-  };
-  const auto put_ideal = [&](const std::optional<ideal>& I) {
-    out << (I ? "ideal " : "no ideal\n");
-    if (I) out << *I;
-  };
-  put_number(s);
-  put_matrix(P);
-  put_number(static_cast<int>(has_bu_mo));
-  put_monomials(O, O_index);
-  put_monomials(B, B_index);
-  for (int g = 0; Ix && g < Ix->no_of_gens(); ++g) {
-    counter = 0;
-    out << Ix->gen(g, O) << "\n";
   }
-  put_matrix(separator);
-  put_all(hilb_fct);
-  put_all(delta_fct);
-  for (const int n : {sigma, delta, alpha, sep, is_CB, is_ar_Go}) put_number(n);
-  if (beta_matrix) put_matrix(*beta_matrix);
-  put_all(basis);
-  put_number(Can_Lf ? Can_Lf->no_of_border() : -1);
-  counter = 0;
-  put_ideal(min_Ix);
-  put_ideal(socle);
-  put_all(pr);
-  put_all(pr_deg);
-  for (const polynomial& f : A_d) {
-    f.put(out);
-    out << "\n";
+  void put(const points::order_ideal& X) {
+    // These and those below name every field: a new one has to be added.
+    const auto& [O, O_index, B, B_index, Ix, separator, H] = X;
+    const auto& [hilb_fct, delta_fct, sigma, delta, alpha] = H;
+    put(O, O_index);
+    put(B, B_index);
+    for (int g = 0; g < Ix.no_of_gens(); ++g) {
+      put(std::vector<monom>{Ix.lead(g)});
+      put(Ix.tail(g));
+      put(Ix.find(Ix.lead(g)));
+    }
+    put(separator);
+    put(hilb_fct);
+    put(delta_fct);
+    for (const int n : {sigma, delta, alpha}) put(n);
   }
-  put_number(A_d_cols);
-  put_number(A_d_maxdeg);
-  put_all(A_d_coldeg);
-  put_all(linres[0]);
-  put_all(linres[1]);
-  put_number(linid);
-  put_number(linom);
-  counter = column;
-  return out.str();
+  void put(const verdicts& found) {
+    const auto& [is_CB, is_ar_Go] = found;
+    put(static_cast<int>(is_CB));
+    put(is_ar_Go ? static_cast<int>(*is_ar_Go) : -1);
+  }
+  void put(const leading_forms& forms) {
+    const auto& [beta, basis] = forms;
+    put(beta);
+    put(basis);
+  }
+  // The multiplication: every product and every form.
+  void put(const canonical_forms& forms) {
+    for (int d = 0; d <= forms.top_degree() + 1; ++d) put(forms.begin(d));
+    for (int i = 0; i < forms.no_of_members(); ++i) {
+      for (int v = 0; v < dim; ++v) {
+        put(static_cast<int>(forms.times(i, v).in_O));
+        put(forms.times(i, v).position);
+      }
+    }
+    for (int b = 0; b < forms.no_of_border(); ++b) {
+      put(forms.form(b));
+      put(forms.origin_of(b).border);
+      put(forms.origin_of(b).variable);
+    }
+  }
+  void put(const ideal& I) {
+    const auto& [gen] = I;
+    put(gen);
+  }
+  void put(const presentation& w_R) {
+    const auto& [pr, pr_monom, pr_deg, sigma, A_d_cols, A_d, A_d_maxdeg, A_d_coldeg] = w_R;
+    put(pr);
+    put(pr_monom);
+    put(pr_deg);
+    put(A_d);
+    put(A_d_coldeg);
+    for (const int n : {sigma, A_d_cols, A_d_maxdeg}) put(n);
+  }
+  void put(const strand_numbers& strands) {
+    const auto& [linres, linid, linom] = strands;
+    for (const std::vector<int>& row : linres) put(row);
+    put(static_cast<int>(linid));
+    put(static_cast<int>(linom));
+  }
+  template <class T>
+  void put(const char* name, const kept<T>& result) {
+    out_ << name << (result ? ": " : ": none\n");
+    if (result) put(*result);
+  }
+
+  std::string text() const { return out_.str(); }
+
+ private:
+  std::ostringstream out_;
+};
+
+// All that is known.
+inline std::string contents(const results& known) {
+  const auto& [bu_mo, sep, beta_matrix, Can_Lf, min_Ix, socle, omega, is_CB, is_ar_Go, strands] =
+      known;
+  contents_text text;
+  text.put("bu_mo", bu_mo);
+  text.put("sep", sep);
+  text.put("beta_matrix", beta_matrix);
+  text.put("Can_Lf", Can_Lf);
+  text.put("min_Ix", min_Ix);
+  text.put("socle", socle);
+  text.put("omega", omega);
+  text.put(static_cast<int>(is_CB));
+  text.put(static_cast<int>(is_ar_Go));
+  text.put(strands);
+  return text.text();
+}
+
+// A set with all that is known of it.
+inline std::string contents(const scheme& X) {
+  contents_text points;
+  points.put(X.P());
+  return points.text() + contents(X.known());
+}
+
+// True when each result is not only equal, but the same.
+inline bool same_results(const results& a, const results& b) {
+  return a.bu_mo == b.bu_mo && a.sep == b.sep && a.beta_matrix == b.beta_matrix &&
+         a.Can_Lf == b.Can_Lf && a.min_Ix == b.min_Ix && a.socle == b.socle && a.omega == b.omega;
 }
 
 // Calls use(points) for a few sets in several rings, some without meaning.

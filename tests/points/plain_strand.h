@@ -11,7 +11,9 @@
 #include "arith/polynomial.h"
 #include "arith/ring.h"
 #include "base/output.h"
-#include "points/record/scheme.h"
+#include "points/module/presentation.h"
+#include "points/ring/ideal.h"
+#include "reference/polynomials.h"
 
 namespace zep::tests {
 
@@ -179,7 +181,7 @@ class plain_elimination {
       if (G_.positions[l] != k || !Zn_order_lt(G_.leading_monomial(l), lead)) continue;
       const monom q = lead / G_.leading_monomial(l);
       subtract(W, c, q, G_.vectors[l]);
-      subtract(candidates_[t][l], c, q, polynomial(1));
+      candidates_[t][l] -= polynomial(q, c);
       return true;
     }
     return false;
@@ -233,8 +235,9 @@ inline void add_level(plain_strand& strand, std::vector<plain_vector> vectors, i
       std::to_string(number) + " syzygies in degree " + std::to_string(degree) + " found\n";
 }
 
-inline plain_level plain_generators(const scheme& X) {
-  const std::vector<polynomial>& all = X.min_Ix->gen;
+// The generators of least degree, the first ones.
+inline plain_level plain_generators(const ideal& I) {
+  const std::vector<polynomial>& all = I.gen;
   plain_level result;
   result.rank = 1;
   int n = static_cast<int>(all.size());
@@ -246,43 +249,42 @@ inline plain_level plain_generators(const scheme& X) {
   return result;
 }
 
-// The strand of I_X. Requires min_Ix.
-inline plain_strand plain_strand_of_I_X(const scheme& X) {
+// The strand of I_X, from its minimal generators, of which there are some.
+inline plain_strand plain_strand_of_I_X(const ideal& min_Ix, int alpha) {
   plain_strand strand;
   strand.numbers.assign(dim, 0);
-  const raised_dim projective;
-  strand.levels.push_back(plain_generators(X));
+  strand.levels.push_back(plain_generators(min_Ix));
   strand.numbers[0] = strand.levels[0].count();
   strand.progress = "I_X has " + std::to_string(strand.numbers[0]) + " generators of degree " +
-                    std::to_string(X.alpha) + "\n";
+                    std::to_string(alpha) + "\n";
   for (int k = 1;; ++k) {
     const int rank = strand.levels.back().count();
     std::vector<plain_vector> candidates = plain_candidates(strand, k == 1);
     if (candidates.empty()) break;
-    add_level(strand, std::move(candidates), rank, k, X.alpha - k);
+    add_level(strand, std::move(candidates), rank, k, alpha - k);
   }
   strand.progress += Line;
   return strand;
 }
 
 // Number of generators of w_R with a monomial of the same degree as the last one.
-inline int plain_no_of_generators(const scheme& X) {
-  const auto degree = [&](int i) { return X.O[X.pr[i]].tot_deg(); };
-  const int last = static_cast<int>(X.pr.size()) - 1;
+inline int plain_no_of_generators(const presentation& w_R) {
+  const auto degree = [&](int i) { return w_R.pr_monom[i].tot_deg(); };
+  const int last = w_R.no_of_pr() - 1;
   int g = 1;
   for (int i = 0; i < last; ++i) g += degree(i) == degree(last) ? 1 : 0;
   return g;
 }
 
 // The last g entries of the relations that have a linear one among them.
-inline std::vector<plain_vector> plain_relations(const scheme& X, int g) {
+inline std::vector<plain_vector> plain_relations(const presentation& w_R, int g) {
   std::vector<plain_vector> found;
-  const int n = static_cast<int>(X.pr.size());
-  for (int j = 0; j < X.A_d_cols; ++j) {
+  const int n = w_R.no_of_pr();
+  for (int j = 0; j < w_R.A_d_cols; ++j) {
     plain_vector relation;
     bool linear = false;
     for (int i = n - g; i < n; ++i) {
-      relation.push_back(X.A_d[i * X.A_d_cols + j]);
+      relation.push_back(w_R.A_d[i * w_R.A_d_cols + j]);
       const monom& m = relation.back().term(0);
       linear = linear || m.tot_deg() + m.exp(proj - 1) == 1;
     }
@@ -297,39 +299,38 @@ inline void drop_zero_vectors(std::vector<plain_vector>& vectors) {
 
 enum class plain_extent { all, linear_relations };
 
-// The strand of w_R, or its beginning. Requires omega.
-inline plain_strand plain_strand_of_w_R(const scheme& X, plain_extent extent = plain_extent::all) {
+// The strand of w_R, or its beginning. There are generators.
+inline plain_strand plain_strand_of_w_R(const presentation& w_R,
+                                        plain_extent extent = plain_extent::all) {
   plain_strand strand;
   strand.numbers.assign(dim, 0);
   const int last = dim - 1;
-  const raised_dim projective;
-  const int g = plain_no_of_generators(X);
+  const int g = plain_no_of_generators(w_R);
   strand.numbers[last] = g;
   strand.progress =
-      "w_R has " + std::to_string(g) + " generators in degree " + std::to_string(-X.sigma) + "\n";
-  add_level(strand, plain_relations(X, g), g, last - 1, -X.sigma - 1);
+      "w_R has " + std::to_string(g) + " generators in degree " + std::to_string(-w_R.sigma) + "\n";
+  add_level(strand, plain_relations(w_R, g), g, last - 1, -w_R.sigma - 1);
   for (int k = 2; extent == plain_extent::all; ++k) {
     const int rank = strand.levels.back().count();
     std::vector<plain_vector> candidates = plain_candidates(strand, false);
     drop_zero_vectors(candidates);
     if (candidates.empty()) break;
-    add_level(strand, std::move(candidates), rank, last - k, -X.sigma - k);
+    add_level(strand, std::move(candidates), rank, last - k, -w_R.sigma - k);
   }
   strand.progress += Line;
   return strand;
 }
 
-// The vectors of a level as text. ----------------------------------------------------------------
+// The vectors of a level as text: on the screen and in files.
 
 inline std::string plain_screen_form(const plain_level& level) {
   std::ostringstream text;
   for (int i = 0; i < level.count(); ++i) {
     if (level.positions[i] < 0) continue;
     text << "[ ";
-    counter = 2;
     for (int k = 0; k < level.rank; ++k) {
-      text << (k > 0 ? ";\n" : "") << level.vectors[i][k];
-      counter = 0;
+      text << (k > 0 ? ";\n" : "");
+      show(text, level.vectors[i][k], k > 0 ? 0 : 2);
     }
     text << " ]\n";
   }

@@ -10,14 +10,14 @@
 #include "arith/candidate.h"
 #include "arith/ordering.h"
 #include "arith/ring.h"
-#include "points/record/scheme.h"
+#include "linalg/matrix.h"
 
 namespace zep::tests {
 
 class plain_walk {
  public:
-  explicit plain_walk(const scheme& X) : X_(X) {
-    if (X.s > 0) candidates_[monom()] = mmm();
+  explicit plain_walk(const matrix& P) : P_(P) {
+    if (P.rows() > 0) candidates_[monom()] = mmm();
     while (!candidates_.empty()) {
       const mmm m = candidates_.extract(candidates_.begin()).mapped();
       if (m.ins == m.t.vars()) {
@@ -38,11 +38,11 @@ class plain_walk {
 
   // Row i: the separator of point i. Requires distinct points.
   std::vector<row> separators() const {
-    std::vector<row> f(X_.s);
-    for (int j = X_.s - 1; j >= 0; --j) {
+    std::vector<row> f(P_.rows());
+    for (int j = P_.rows() - 1; j >= 0; --j) {
       row& separator = f[pi_[j]];
       separator = q_[j];
-      for (int k = j + 1; k < X_.s; ++k) {
+      for (int k = j + 1; k < P_.rows(); ++k) {
         subtract(separator, f[pi_[k]], values_q_[j][pi_[k]]);
       }
     }
@@ -55,12 +55,12 @@ class plain_walk {
   }
 
   void examine(const mmm& m) {
-    row values(X_.s, Fp8(1));
-    for (int i = 0; m.n >= 0 && i < X_.s; ++i) {
-      values[i] = values_[m.n][i] * X_.P[i][m.k];
+    row values(P_.rows(), Fp8(1));
+    for (int i = 0; m.n >= 0 && i < P_.rows(); ++i) {
+      values[i] = values_[m.n][i] * P_[i][m.k];
     }
     row reduced = values;
-    row f(X_.s);
+    row f(P_.rows());
     for (std::size_t j = 0; j < O.size(); ++j) {
       const Fp8 c = reduced[pi_[j]];
       subtract(reduced, values_q_[j], c);
@@ -92,7 +92,7 @@ class plain_walk {
     O.push_back(m.t);
   }
 
-  const scheme& X_;
+  const matrix& P_;
   std::map<monom, mmm, monom_comparison> candidates_ =
       std::map<monom, mmm, monom_comparison>(monom_ordering_lt);
   // The triangular sequence, over O and by values, and its pivots; the values of O.

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iostream>
 #include <map>
 #include <random>
 #include <set>
@@ -15,32 +14,46 @@
 #include "arith/ordering.h"
 #include "arith/polynomial.h"
 #include "arith/ring.h"
-#include "base/reporter.h"
 #include "points/record/scheme.h"
-#include "tests/captured.h"
+#include "points/walk/buchberger_moeller.h"
 #include "tests/plain_echelon.h"
 #include "tests/ring_in_force.h"
+#include "tests/told.h"
 
 namespace zep::tests {
 
 // The separator line.
 inline const std::string line = std::string(79, '-') + "\n";
 
-// Keeps what the computations print, progress included, while it lives.
-struct silence {
-  captured out{std::cout};
-  captured err{std::cerr};
-};
-
 using coordinates = std::vector<int>;
 using exponents = std::vector<int>;
 
-inline scheme make_set(const std::vector<coordinates>& points) {
-  scheme X(static_cast<int>(points.size()));
-  for (int i = 0; i < X.s; ++i) {
-    for (int j = 0; j < dim; ++j) X.P[i][j] = points[i][j];
+// Elements of the field in force, by integers of either sign.
+inline row row_of(const std::vector<int>& values) {
+  row elements;
+  for (const int value : values) {
+    elements.emplace_back((value % Fp8::prime + Fp8::prime) % Fp8::prime);
   }
-  return X;
+  return elements;
+}
+
+// The points as rows of the space in force.
+inline matrix rows_of(const std::vector<coordinates>& points) {
+  matrix P(dim, static_cast<int>(points.size()));
+  for (int i = 0; i < P.rows(); ++i) {
+    for (int j = 0; j < dim; ++j) P[i][j] = points[i][j];
+  }
+  return P;
+}
+
+// What the walk over the monomials finds.
+inline points::order_ideal walked(const std::vector<coordinates>& points) {
+  return bu_mo(rows_of(points), nobody());
+}
+
+// A set that remembers, and on which nothing has been computed.
+inline scheme make_set(const std::vector<coordinates>& points, reporter& to = nobody()) {
+  return {rows_of(points), to};
 }
 
 // At most s distinct random points; fewer when the space has fewer.

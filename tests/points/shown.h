@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <memory>
 #include <ostream>
 #include <sstream>
 #include <string>
@@ -12,23 +13,22 @@
 
 namespace zep::tests {
 
-using display = void (*)(std::ostream&, scheme&);
-
-inline std::string shown(display show, scheme& X) {
-  const silence quiet;
+// What print(stream) prints.
+template <class Print>
+std::string shown(Print print) {
   std::ostringstream out;
-  show(out, X);
+  print(out);
   return out.str();
 }
 
-// The same on a set on which nothing has been computed.
-inline std::string shown(display show, const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  return shown(show, X);
+// What a display prints of a result.
+template <class Result>
+std::string shown(void (*display)(std::ostream&, const Result&), const Result& result) {
+  return shown([&](std::ostream& out) { display(out, result); });
 }
 
-// What is in the record of a set of P^3 about its linear strands.
-struct strand_numbers {
+// What is known about the linear strands of a set of P^3.
+struct strand_facts {
   int alpha = 0;
   int sigma = 0;
   std::vector<int> of_I_X = std::vector<int>(3);
@@ -36,13 +36,16 @@ struct strand_numbers {
 };
 
 // The table of these.
-inline std::string shown_table(display show, const strand_numbers& numbers) {
+inline std::string shown_table(void (*display)(std::ostream&, const results&),
+                               const strand_facts& facts) {
   const ring_in_force ring(101, 3);
-  scheme X = make_set({{1, 2, 3}});
-  X.alpha = numbers.alpha;
-  X.sigma = numbers.sigma;
-  X.linres = {numbers.of_I_X, numbers.of_w_R};
-  return shown(show, X);
+  points::order_ideal X = walked({{1, 2, 3}});
+  X.H.alpha = facts.alpha;
+  X.H.sigma = facts.sigma;
+  results known(3);
+  known.bu_mo = std::make_shared<const points::order_ideal>(std::move(X));
+  known.strands.linres = {facts.of_I_X, facts.of_w_R};
+  return shown(display, known);
 }
 
 // How the first lines of long polynomials end, where the column at which they were begun shows.

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "points/ideal/artinian_forms.h"
 #include "points/ideal/minimal_generators.h"
 #include "points/module/canonical_module.h"
 #include "tests/points/point_sets.h"
@@ -10,14 +11,15 @@
 
 namespace zep::tests {
 
-// With everything that the strands start from.
-inline scheme prepared(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  min_Ix(X);
-  omega(X);
-  return X;
-}
+// Everything that the strands start from.
+struct strand_starts {
+  explicit strand_starts(const std::vector<coordinates>& points)
+      : X(walked(points)), min_Ix(points::min_Ix(X, Can_Lf(X))), w_R(omega(X, nobody())) {}
+
+  points::order_ideal X;
+  ideal min_Ix;
+  presentation w_R;
+};
 
 template <class Check>
 void for_each_special_or_random_set(Check check) {

@@ -81,6 +81,8 @@ void be_the_program(const std::string& typed) {
   try {
     std::istringstream in(typed);
     run_program(in);
+  } catch (const division_by_zero& fault) {
+    end_with(fault);
   } catch (const std::bad_alloc&) {
     mem_warn();
   } catch (const std::length_error&) {
@@ -135,7 +137,8 @@ std::string fault_of(const outcome& run) {
 }
 
 bool ends_with_farewell(const std::string& out) {
-  return std::string_view(out).ends_with(Line + "thanks for using ZEP\n" + Line);
+  return std::string_view(out).ends_with(std::string(Line) + "thanks for using ZEP\n" +
+                                         std::string(Line));
 }
 
 }  // namespace zep::tests

@@ -1,9 +1,13 @@
 #include "tests/terminal/pseudo_terminal.h"
 
 #include <poll.h>
-#include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#if __has_include(<pty.h>)
+#include <pty.h>
+#else
+#include <util.h>
+#endif
 
 #include <array>
 #include <chrono>

@@ -23,14 +23,12 @@ polynomial sum_of_variables(int n, int c = 1) {
 
 std::string on_one_line(const polynomial& f) {
   std::ostringstream text;
-  counter = -200;
-  text << f;
+  show(text, f, -200);
   return text.str();
 }
 
 std::string vector_shown(const std::vector<polynomial>& components) {
   std::ostringstream out;
-  counter = 40;
   show_vector(out, static_cast<int>(components.size()),
               [&](int i) -> const polynomial& { return components[i]; });
   return out.str();
@@ -40,7 +38,7 @@ TEST(VectorText, BeginsTheFirstComponentInTheThirdColumn) {
   const ring_in_force ring(101, 26);
   // 77 columns: the last term would end where no term may.
   EXPECT_EQ(vector_shown({sum_of_variables(20)}),
-            "[ " + on_one_line(sum_of_variables(19)) + "\n + " + varstring[19] + " ]\n");
+            "[ " + on_one_line(sum_of_variables(19)) + "\n + " + default_names[19] + " ]\n");
   // 76 columns fit.
   EXPECT_EQ(vector_shown({sum_of_variables(19, -2)}),
             "[ " + on_one_line(sum_of_variables(19, -2)) + " ]\n");
@@ -49,17 +47,49 @@ TEST(VectorText, BeginsTheFirstComponentInTheThirdColumn) {
 TEST(VectorText, BeginsTheOtherComponentsInTheFirstColumn) {
   const ring_in_force ring(101, 26);
   // 79 columns do not fit, 78 do.
-  EXPECT_EQ(vector_shown({polynomial(0), sum_of_variables(20, -1)}),
-            "[  0;\n" + on_one_line(sum_of_variables(19, -1)) + "\n + " + varstring[19] + " ]\n");
+  EXPECT_EQ(
+      vector_shown({polynomial(0), sum_of_variables(20, -1)}),
+      "[  0;\n" + on_one_line(sum_of_variables(19, -1)) + "\n + " + default_names[19] + " ]\n");
   EXPECT_EQ(vector_shown({sum_of_variables(19), sum_of_variables(20, 2)}),
             "[ " + on_one_line(sum_of_variables(19)) + ";\n" +
                 on_one_line(sum_of_variables(20, 2)) + " ]\n");
 }
 
-TEST(VectorText, LeavesTheColumnAtTheStartOfALine) {
+TEST(VectorText, ClosesItsBracketOnTheLastLine) {
+  const ring_in_force ring(101, 3);
+  const polynomial f(variable(0));
+  EXPECT_EQ(vector_shown({}), "[  ]\n");
+  EXPECT_EQ(vector_shown({f}), "[ X ]\n");
+  EXPECT_EQ(vector_shown({f, polynomial(0), f}), "[ X;\n 0;\nX ]\n");
+}
+
+// However the components before it have ended.
+TEST(VectorText, BeginsEveryComponentAsIfItWereAlone) {
   const ring_in_force ring(101, 26);
-  vector_shown({sum_of_variables(3)});
-  EXPECT_EQ(counter, 0);
+  const polynomial broken = sum_of_variables(24);
+  std::ostringstream alone;
+  show(alone, broken, 0);
+  EXPECT_EQ(vector_shown({polynomial(1), broken, broken}),
+            "[ 1;\n" + alone.str() + ";\n" + alone.str() + " ]\n");
+}
+
+TEST(VectorText, HasALineForEachComponentInItsFileForm) {
+  const ring_in_force ring(101, 26);
+  const std::vector<polynomial> components = {sum_of_variables(2, 3), polynomial(0),
+                                              sum_of_variables(26)};
+  std::ostringstream out;
+  put_vector(out, 3, [&](int i) -> const polynomial& { return components[i]; });
+  std::string expected;
+  for (const polynomial& f : components) {
+    std::ostringstream line;
+    f.put(line);
+    expected += line.str() + "\n";
+  }
+  EXPECT_EQ(out.str(), expected);
+  EXPECT_TRUE(out.str().starts_with("3X+Y\n0\nX+Y+Z+"));
+  std::ostringstream nothing;
+  put_vector(nothing, 0, [&](int i) -> const polynomial& { return components[i]; });
+  EXPECT_EQ(nothing.str(), "");
 }
 
 }  // namespace

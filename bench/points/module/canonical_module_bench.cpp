@@ -6,7 +6,9 @@
 namespace zep::tests {
 namespace {
 
-BENCHMARK(bench_after_bu_mo<omega>)
+presentation presentation_of(const order_ideal& X) { return omega(X, nobody()); }
+
+BENCHMARK(bench_after_bu_mo<presentation_of>)
     ->Name("omega")
     ->ArgNames({"points", "n"})
     ->Args({100, 3})

@@ -1,19 +1,16 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/points/points.h"
-#include "points/walk/buchberger_moeller.h"
 
 namespace zep::tests {
 namespace {
 
 void bench_bu_mo(benchmark::State& state) {
-  const silence quiet;
-  set_ring(101, 3);
-  const scheme points = irregular_points(static_cast<int>(state.range(0)));
+  const ring_in_force in_force(ring_of(101, 3));
+  const matrix P = irregular_points(static_cast<int>(state.range(0)));
   for ([[maybe_unused]] const auto _ : state) {
-    scheme X = points;
-    bu_mo(X);
-    benchmark::DoNotOptimize(X.delta);
+    const order_ideal X = bu_mo(P, nobody());
+    benchmark::DoNotOptimize(X.H.delta);
   }
 }
 

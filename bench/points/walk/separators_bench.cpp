@@ -6,7 +6,9 @@
 namespace zep::tests {
 namespace {
 
-BENCHMARK(bench_after_bu_mo<sep>)
+verdicts verdicts_of(const order_ideal& X) { return sep(X, nobody()); }
+
+BENCHMARK(bench_after_bu_mo<verdicts_of>)
     ->Name("sep")
     ->ArgNames({"points", "n"})
     ->Args({100, 3})

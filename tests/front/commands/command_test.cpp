@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/output.h"
 #include "tests/front/transcript.h"
-#include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
@@ -22,10 +22,10 @@ TEST(CommandTable, IsAlphabeticalWithNamesThatFitAWord) {
 }
 
 TEST(CommandTable, FindsCommandsByTheirWholeName) {
-  for (int c = 0; c < no_of_commands(); ++c) EXPECT_EQ(find_command(command[c].name), c);
-  EXPECT_EQ(find_command("alph"), -1);
-  EXPECT_EQ(find_command("alphas"), -1);
-  EXPECT_EQ(find_command(""), -1);
+  for (const command_record& record : command) EXPECT_EQ(find_command(record.name), &record);
+  EXPECT_EQ(find_command("alph"), nullptr);
+  EXPECT_EQ(find_command("alphas"), nullptr);
+  EXPECT_EQ(find_command(""), nullptr);
 }
 
 TEST(CommandTable, OnlyDelAndDisplayTakeAnIdentifierOfAnyType) {
@@ -51,7 +51,7 @@ TEST(CommandTable, CommandsWithoutIdentifierAreTheSettingsAndTheCreatingOnes) {
 
 TEST(Help, ListsSixNamesARowInColumnsOfThirteen) {
   std::string expected = "% list of commands in alphabetical order :";
-  for (int c = 0; c < no_of_commands(); ++c) {
+  for (std::size_t c = 0; c < command.size(); ++c) {
     std::string name = command[c].name;
     name.resize(13, ' ');
     expected += (c % 6 == 0 ? "\n" : "") + name;
@@ -60,21 +60,19 @@ TEST(Help, ListsSixNamesARowInColumnsOfThirteen) {
 }
 
 TEST(Help, FillsTheLineLength) {
-  const ring_in_force ring;
-  for (const int columns : {1, 3, 10}) {
-    set_line_length(13 * columns + 12);
-    const captured out(std::cout);
-    help();
-    std::istringstream rows(out.text());
-    std::string row;
-    std::getline(rows, row);
-    std::getline(rows, row);
-    EXPECT_EQ(static_cast<int>(row.size()), 13 * columns);
-    while (rows.peek() != '-' && std::getline(rows, row)) {
-    }
-    std::getline(rows, row);
-    EXPECT_EQ(row + "\n", Line);
+  const captured out(std::cout);
+  help();
+  std::istringstream rows(out.text());
+  std::string row;
+  std::getline(rows, row);
+  std::getline(rows, row);
+  // As many columns as there is room for.
+  EXPECT_LT(static_cast<int>(row.size()), LL);
+  EXPECT_GE(static_cast<int>(row.size()) + 13, LL);
+  while (rows.peek() != '-' && std::getline(rows, row)) {
   }
+  std::getline(rows, row);
+  EXPECT_EQ(row + "\n", Line);
 }
 
 TEST(Refusals, NameTheOtherProgram) {

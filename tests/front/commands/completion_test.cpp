@@ -11,8 +11,8 @@
 namespace zep::tests {
 namespace {
 
-const std::string at_command(command_prompt);
-const std::string at_filename(filename_prompt);
+constexpr awaited at_command = awaited::command;
+constexpr awaited at_filename = awaited::file_name;
 
 bool offers(const completions& found, const std::string& word) {
   return std::ranges::find(found.words, word) != found.words.end();
@@ -20,20 +20,14 @@ bool offers(const completions& found, const std::string& word) {
 
 class Completion : public testing::Test {
  protected:
-  Completion() {
-    const captured out(std::cout);
-    const captured err(std::cerr);
-    set_defaults(z_);
-    parser(z_);
-  }
+  Completion() { type_in(shared_, "random first 2\nrandom second 2\n"); }
 
-  completions found(const std::string& prompt, const std::string& before) const {
-    return complete(z_.var, prompt, before);
+  completions found(awaited what, const std::string& before) const {
+    return complete(shared_.var, what, before);
   }
 
  private:
-  std::istringstream typed_{"random first 2\nrandom second 2\n"};
-  session z_{typed_};
+  workspace shared_;
 };
 
 TEST_F(Completion, OffersCommandsAndIdentifiersWhereACommandIsAwaited) {
@@ -70,10 +64,10 @@ TEST_F(Completion, OffersFileNamesWhereTheCommandAsksForOne) {
 }
 
 TEST_F(Completion, OffersNothingWhereANumberIsAwaited) {
-  const completions none = found("enter number of points : ", "");
+  const completions none = found(awaited::answer, "");
   EXPECT_TRUE(none.words.empty());
   EXPECT_FALSE(none.files);
-  EXPECT_TRUE(found("", "").words.empty());
+  EXPECT_TRUE(found(awaited::more, "").words.empty());
 }
 
 }  // namespace

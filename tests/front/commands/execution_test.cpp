@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -13,35 +14,56 @@
 namespace zep::tests {
 namespace {
 
-TEST(Execution, ANumberOutsideDoesNothing) {
-  std::istringstream nothing;
-  session z(nothing);
-  const captured out(std::cout);
-  execute(z, no_of_commands(), no_identifier);
-  execute(z, -1, no_identifier);
-  EXPECT_EQ(out.text(), "");
-  EXPECT_FALSE(z.quit);
-}
+// A session in which A is being made: until it has its scheme, it is of another type.
+struct session_with_A {
+  std::istringstream keyboard{"A"};
+  workspace shared;
+  session z{shared, keyboard};
+  std::optional<reservation> A = reservation::read(z.typed, shared.var, shared.wrong);
+};
 
 TEST(Execution, ASchemeCommandRefusesAnIdentifierOfAnotherType) {
-  std::istringstream nothing;
-  session z(nothing);
-  const captured out(std::cout);
-  // A free record has a type of its own.
-  execute(z, find_command("alpha"), 0);
-  EXPECT_EQ(out.text(), "indentifier of wrong typ\n");
+  session_with_A s;
+  for (const command_record& record : command) {
+    if (record.kind != command_kind::scheme_identifier) continue;
+    const captured out(std::cout);
+    execute(s.z, record, "A");
+    EXPECT_EQ(out.text(), "indentifier of wrong typ\n") << record.name;
+  }
+  EXPECT_FALSE(s.z.quit);
 }
 
 TEST(Execution, DelAndDisplayAcceptAnIdentifierOfAnotherType) {
-  std::istringstream typed("A");
-  session z(typed);
-  // Until it has its scheme, a record has a type of its own.
-  const auto without_scheme = reservation::read(z.typed, z.var);
+  session_with_A s;
   const captured out(std::cout);
-  execute(z, find_command("display"), 0);
+  execute(s.z, *find_command("display"), "A");
   EXPECT_EQ(out.text(), ":\n");
-  execute(z, find_command("del"), 0);
+  execute(s.z, *find_command("del"), "A");
   EXPECT_EQ(out.text(), ":\nA deleted\n");
+  EXPECT_EQ(s.shared.wrong.number(), 0);
+}
+
+TEST(Execution, CountsWhatItComplainsOf) {
+  session_with_A s;
+  const captured out(std::cout);
+  execute(s.z, *find_command("alpha"), std::nullopt);
+  EXPECT_EQ(s.shared.wrong.number(), 1);
+  execute(s.z, *find_command("del"), "B");
+  EXPECT_EQ(s.shared.wrong.number(), 2);
+  execute(s.z, *find_command("alpha"), "A");
+  EXPECT_EQ(s.shared.wrong.number(), 3);
+  EXPECT_EQ(out.text(),
+            "command needs indentifier\nindentifier unknown\nindentifier of wrong typ\n");
+}
+
+TEST(Execution, OfACommandThatTakesNothingLooksForNoIdentifier) {
+  session_with_A s;
+  const captured out(std::cout);
+  execute(s.z, *find_command("quiet"), std::nullopt);
+  EXPECT_FALSE(s.shared.report.is_verbose());
+  execute(s.z, *find_command("quit"), std::nullopt);
+  EXPECT_TRUE(s.z.quit);
+  EXPECT_EQ(out.text(), "");
 }
 
 TEST(Execution, EveryCommandForASchemeChecksItsIdentifier) {

@@ -8,6 +8,7 @@
 #include "arith/ring.h"
 #include "base/interrupt.h"
 #include "tests/front/transcript.h"
+#include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
@@ -74,8 +75,8 @@ TEST(Random, DrawsTheLaterOfTwoEqualPointsAnewUntilAllDiffer) {
   for (const int highest : {1, 2, 4}) {
     const int all = (highest + 1) * (highest + 1) * (highest + 1);
     for (const int n : {2, all / 2, all - 1, all}) {
+      const ring_in_force ring(101, 3);
       ACG gen(1234);
-      dim = 3;
       const auto rows = plainly_drawn(n, highest, 0, gen);
       EXPECT_EQ(std::set(rows.begin(), rows.end()).size(), rows.size());
       EXPECT_EQ(
@@ -95,8 +96,8 @@ TEST(Random2, StartsWithTheOriginAndTheUnitPoints) {
 }
 
 TEST(Random2, NeverDrawsTheFixedPointsAnew) {
+  const ring_in_force ring(101, 3);
   ACG gen(1234);
-  dim = 3;
   EXPECT_EQ(points_of("range 1\nrandom2 A 8\n", 8, as_text(plainly_drawn(8, 1, 4, gen))),
             "as said");
 }
@@ -128,18 +129,20 @@ TEST(Random, CountsThePointsThatThereAreInHighDimensionsToo) {
 
 TEST(Random, DrawsFromTheLowerBorderToTheUpperOne) {
   std::istringstream keyboard("A 8 B 9");
-  session z(keyboard);
-  set_defaults(z);
-  z.range1 = 7;
-  z.range2 = 8;
+  workspace shared;
+  session z(shared, keyboard);
+  shared.range1 = 7;
+  shared.range2 = 8;
   const captured out(std::cout);
   random1(z);
-  const matrix& P = z.var.object(z.var.find("A")).P;
+  ASSERT_NE(shared.var.find("A"), nullptr);
+  const matrix& P = shared.var.find("A")->object->P();
+  ASSERT_EQ(P.rows(), 8);
   for (int i = 0; i < P.rows(); ++i) {
-    for (const Fp8 x : P.row(i)) EXPECT_TRUE(x == 7 || x == 8);
+    for (const Fp8 x : P[i]) EXPECT_TRUE(x == 7 || x == 8);
   }
   random1(z);
-  EXPECT_EQ(z.var.find("B"), unknown_identifier);
+  EXPECT_EQ(shared.var.find("B"), nullptr);
   EXPECT_EQ(out.text(), line + "not enough points in the current range !\n");
 }
 
@@ -172,15 +175,17 @@ TEST(Random, FillsTheWholeRangeQuickly) {
 
 TEST(Random, LeavesIdentifiersAndGeneratorAsTheyWereWhenInterrupted) {
   std::istringstream keyboard("A 20");
-  session z(keyboard);
-  set_defaults(z);
+  workspace shared;
+  session z(shared, keyboard);
   const captured out(std::cout);
   // Some points are drawn first where checks are counted.
-  paranoid ? interrupt_at_check(5) : request_interrupt();
+  const interrupt_at_check when(5);
+  if (!paranoid) request_interrupt();
   EXPECT_THROW(random1(z), interrupted);
-  EXPECT_EQ(z.var.find("A"), unknown_identifier);
-  ACG undisturbed = session(keyboard).gen;
-  EXPECT_EQ(z.gen.draw(), undisturbed.draw());
+  EXPECT_EQ(out.text(), "");
+  EXPECT_EQ(shared.var.find("A"), nullptr);
+  ACG undisturbed = workspace().gen;
+  EXPECT_EQ(shared.gen.draw(), undisturbed.draw());
 }
 
 }  // namespace

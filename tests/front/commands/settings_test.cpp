@@ -6,15 +6,14 @@
 #include "arith/ordering.h"
 #include "arith/ring.h"
 #include "base/output.h"
-#include "base/reporter.h"
 #include "tests/front/transcript.h"
-#include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
 
-std::string settings(int n, const std::string& ring, const std::string& ordering = "deg-rev-lex") {
-  return "dimension         : " + std::to_string(n) + "\nring              : " + ring +
+std::string settings(int n, const std::string& ring_name,
+                     const std::string& ordering = "deg-rev-lex") {
+  return "dimension         : " + std::to_string(n) + "\nring              : " + ring_name +
          "\nmonomial ordering : " + ordering + "\n" + line;
 }
 
@@ -22,26 +21,15 @@ const std::string refusal = "% characteristic has to be a prime (2 - 251) !\n";
 const std::string too_small = "% \ndimension has to be greater than one !!!\n";
 
 TEST(Settings, StartWithThreeSpaceOverF101) {
-  type_in("char 7\ndim 5\ndeglex\nquiet\nidentifiers abcdef\n");
-  EXPECT_EQ(type_in("ring\n").out, "% " + settings(3, "F101[XYZT]") + "% ");
-  EXPECT_EQ(verbose, 1);
+  type_in("char 7\ndim 5\ndeglex\nquiet\nidentifiers abcdef\nrange 3\n");
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "ring\n").out, "% " + settings(3, "F101[XYZT]") + "% ");
+  EXPECT_TRUE(shared.report.is_verbose());
+  EXPECT_EQ(shared.range1, 0);
+  EXPECT_EQ(shared.range2, 50);
   EXPECT_EQ(LL, 80);
   EXPECT_EQ(Line, line);
-  EXPECT_EQ(varstring, "XYZTabcdefghijklmnopqrstuvw");
-}
-
-TEST(Settings, ThatWereChangedComeBackWithTheDefaults) {
-  const ring_in_force ring;
-  std::istringstream nothing;
-  session z(nothing);
-  z.range1 = 3;
-  z.range2 = 4;
-  set_line_length(60);
-  set_defaults(z);
-  EXPECT_EQ(z.range1, 0);
-  EXPECT_EQ(z.range2, 50);
-  EXPECT_EQ(LL, 80);
-  EXPECT_EQ(Line, line);
+  EXPECT_EQ(current_ring().names, "XYZTabcdefghijklmnopqrstuvw");
 }
 
 TEST(Settings, ChangeOneAtATime) {
@@ -72,15 +60,18 @@ TEST(Settings, TheBannerIsTwoLinesOfTextBetweenSeparators) {
 
 TEST(Characteristic, IsAcceptedFrom2To251) {
   EXPECT_EQ(type_in("char 2\n").out, "% " + line + settings(3, "F2[XYZT]") + "% ");
-  EXPECT_EQ(type_in("char 251\n").out, "% " + line + settings(3, "F251[XYZT]") + "% ");
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "char 251\n").out, "% " + line + settings(3, "F251[XYZT]") + "% ");
   EXPECT_EQ(Fp8(250) + Fp8(1), Fp8(0));
 }
 
 TEST(Characteristic, IsRefusedOutsideAndWhenItIsNoNumber) {
-  EXPECT_EQ(type_in("char 1\nchar 252\nchar -7\n").out, refusal + refusal + refusal + "% ");
-  EXPECT_EQ(type_in("char x\n").out, refusal + "unexpected 'x'\n% ");
-  EXPECT_EQ(type_in("char 99999999999\n").out, refusal + "% ");
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "char 1\nchar 252\nchar -7\n").out, refusal + refusal + refusal + "% ");
+  EXPECT_EQ(type_in(shared, "char x\n").out, refusal + "unexpected 'x'\n% ");
+  EXPECT_EQ(type_in(shared, "char 99999999999\n").out, refusal + "% ");
   EXPECT_EQ(Fp8::prime, 101);
+  EXPECT_EQ(shared.wrong.number(), 6);
 }
 
 TEST(Characteristic, MayStandOnTheNextLine) {
@@ -124,16 +115,20 @@ TEST(Characteristic, KeepsTheUpperBorderBelowItForGood) {
 }
 
 TEST(Dimension, IsAcceptedFromTwoOn) {
-  EXPECT_EQ(type_in("dim 2\n").out, "% " + settings(2, "F101[XYZ]") + "% ");
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "dim 2\n").out, "% " + settings(2, "F101[XYZ]") + "% ");
   EXPECT_EQ(proj, 3);
   EXPECT_EQ(type_in("dim 26\n").out,
             "% " + settings(26, "F101[XYZTabcdefghijklmnopqrstuvw]") + "% ");
 }
 
 TEST(Dimension, IsRefusedBelowTwoAndWhenItIsNoNumber) {
-  EXPECT_EQ(type_in("dim 1\ndim 0\ndim -5\n").out, too_small + too_small + too_small + "% ");
-  EXPECT_EQ(type_in("dim two\n").out, too_small + "unexpected 'two'\n% ");
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "dim 1\ndim 0\ndim -5\n").out,
+            too_small + too_small + too_small + "% ");
+  EXPECT_EQ(type_in(shared, "dim two\n").out, too_small + "unexpected 'two'\n% ");
   EXPECT_EQ(dim, 3);
+  EXPECT_EQ(shared.wrong.number(), 5);
 }
 
 TEST(Dimension, DeletesEveryIdentifierBeforeTheSettings) {
@@ -170,12 +165,12 @@ TEST(Dimension, AsksForNamesWhenThereAreNotEnough) {
 
 TEST(Dimension, Above26NeverGetsItsNames) {
   const std::string names = "abcdefghijklmnopqrstuvwxyzABCDEF";
-  const transcript t = type_in("dim 27\n" + names + "\nring\n");
+  workspace shared;
+  const transcript t = type_in(shared, "dim 27\n" + names + "\nring\n");
   const std::string prompt = "enter 28 identifiers for current ring : ";
   // 26 characters are a word, the remaining six the next one, and so is `ring`.
   EXPECT_EQ(t.out, "% " + prompt + prompt + prompt + prompt);
-  EXPECT_EQ(dim, 3);
-  EXPECT_EQ(varstring, "XYZTabcdefghijklmnopqrstuvw");
+  EXPECT_EQ(current_ring(), ring());
 }
 
 TEST(Dimension, NearTheLargestIntDoesNotOverflow) {
@@ -184,12 +179,13 @@ TEST(Dimension, NearTheLargestIntDoesNotOverflow) {
 }
 
 TEST(Names, AreReplacedByAWordThatIsLongEnough) {
-  const transcript t = type_in("identifiers\nabc\nuvwxyz\n");
+  workspace shared;
+  const transcript t = type_in(shared, "identifiers\nabc\nuvwxyz\n");
   EXPECT_EQ(t.out, "% enter 4 identifiers for current ring : " +
                        std::string("enter 4 identifiers for current ring : ") +
                        settings(3, "F101[uvwx]") + "% ");
   EXPECT_EQ(t.err, "not enough indentifiers\n");
-  EXPECT_EQ(varstring, "uvwxyz");
+  EXPECT_EQ(current_ring().names, "uvwxyz");
 }
 
 TEST(Names, TakeAtMost26CharactersOfAWord) {
@@ -205,18 +201,20 @@ TEST(Names, DeleteNothing) {
 }
 
 TEST(Names, ComeBackWhenTheInputEnds) {
-  type_in("identifiers\nabc\n");
-  EXPECT_EQ(varstring, "XYZTabcdefghijklmnopqrstuvw");
+  workspace shared;
+  type_in(shared, "identifiers\nabc\n");
+  EXPECT_EQ(current_ring(), ring());
 }
 
 TEST(Orderings, ShowTheSettingsAndDeleteEveryIdentifierEvenWithoutAChange) {
-  EXPECT_EQ(type_in("random A 1\ndegrevlex\n").out,
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "random A 1\ndegrevlex\n").out,
             "% " + line + "% " + settings(3, "F101[XYZT]") + "A deleted\n" + line + "% ");
   EXPECT_EQ(monom_ordering_lt, degrevlex_lt);
   EXPECT_EQ(type_in("deglex\nrandom A 1\ndeglex\n").out,
             "% " + settings(3, "F101[XYZT]", "deg-lex") + "% " + line + "% " +
                 settings(3, "F101[XYZT]", "deg-lex") + "A deleted\n" + line + "% ");
-  EXPECT_EQ(type_in("random A 1\nrandom B 1\ndeglex\n").out,
+  EXPECT_EQ(type_in(shared, "random A 1\nrandom B 1\ndeglex\n").out,
             "% " + line + "% " + line + "% " + settings(3, "F101[XYZT]", "deg-lex") +
                 "A deleted\nB deleted\n" + line + "% ");
   EXPECT_EQ(monom_ordering_lt, deglex_lt);
@@ -255,11 +253,11 @@ TEST(Range, DropsTheLineOfWhatIsNoNumber) {
 
 TEST(Range, StaysAsItWasWhenTheInputEnds) {
   std::istringstream keyboard("range\n0\n");
-  session z(keyboard);
-  set_defaults(z);
+  workspace shared;
+  session z(shared, keyboard);
   const captured out(std::cout);
   parser(z);
-  EXPECT_EQ(z.range2, 50);
+  EXPECT_EQ(shared.range2, 50);
   EXPECT_TRUE(z.quit);
 }
 
@@ -271,10 +269,11 @@ TEST(EndOfInput, DropsSettingsWithoutAWord) {
 }
 
 TEST(Verbosity, IsSwitchedWithoutAWord) {
-  EXPECT_EQ(type_in("quiet\n").out, "% % ");
-  EXPECT_EQ(verbose, 0);
-  EXPECT_EQ(type_in("quiet\nverbose\n").out, "% % % ");
-  EXPECT_EQ(verbose, 1);
+  workspace shared;
+  EXPECT_EQ(type_in(shared, "quiet\n").out, "% % ");
+  EXPECT_FALSE(shared.report.is_verbose());
+  EXPECT_EQ(type_in(shared, "quiet\nverbose\n").out, "% % % ");
+  EXPECT_TRUE(shared.report.is_verbose());
 }
 
 }  // namespace

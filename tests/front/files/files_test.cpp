@@ -2,24 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 
-#include "tests/captured.h"
 #include "tests/front/file_name.h"
 
 namespace zep::tests {
 namespace {
-
-TEST(Files, TheNameIsAskedForAndReadAsOneWord) {
-  std::istringstream typed("\n  some/name.txt more");
-  input in(typed);
-  const captured out(std::cout);
-  EXPECT_EQ(ask_filename(in), "some/name.txt");
-  EXPECT_EQ(out.text(), "enter filename : ");
-  EXPECT_EQ(in.word(), "more");
-  EXPECT_THROW(ask_filename(in), end_of_input);
-}
 
 TEST(Files, AFolderAndAMissingFileCantBeOpened) {
   EXPECT_FALSE(source_file("/").is_open());

@@ -2,7 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "tests/front/transcript.h"
+#include "tests/ring_in_force.h"
+#include "tests/told.h"
 
 namespace zep::tests {
 namespace {
@@ -100,36 +108,109 @@ TEST(Identifiers, AreDeletedOneByOneOrAllTogether) {
                 line + "% % ");
 }
 
+// Reserves the name, which is a good one.
+reservation reserve(const std::string& name, identifier_table& table) {
+  std::istringstream typed(name);
+  input in(typed);
+  complaints wrong;
+  auto reserved = reservation::read(in, table, wrong);
+  EXPECT_EQ(wrong.number(), 0);
+  return std::move(*reserved);
+}
+
+// A scheme of one point.
+std::unique_ptr<scheme> some_scheme() { return std::make_unique<scheme>(matrix(dim, 1), nobody()); }
+
 TEST(IdentifierTable, FindsNoFreeRecordByName) {
-  const identifier_table table;
-  EXPECT_EQ(table.find("A"), unknown_identifier);
-  EXPECT_EQ(table.type(0), 0);
+  identifier_table table;
+  EXPECT_EQ(table.find("A"), nullptr);
+  EXPECT_TRUE(table.names().empty());
 }
 
 TEST(IdentifierTable, DeletesQuietly) {
+  const ring_in_force ring;
   identifier_table table;
-  std::istringstream typed("A");
-  input in(typed);
-  reservation::read(in, table)->fill(std::make_unique<scheme>(1));
-  EXPECT_EQ(table.find("A"), 0);
-  EXPECT_EQ(table.type(0), scheme_type);
+  reserve("A", table).fill(some_scheme());
+  ASSERT_NE(table.find("A"), nullptr);
+  EXPECT_NE(table.find("A")->object, nullptr);
   const captured out(std::cout);
   table.del_all(true);
   EXPECT_EQ(out.text(), "");
-  EXPECT_EQ(table.find("A"), unknown_identifier);
-  EXPECT_EQ(table.type(0), 0);
+  EXPECT_EQ(table.find("A"), nullptr);
+  EXPECT_TRUE(table.names().empty());
+}
+
+TEST(IdentifierTable, FreesTheOneThatIsDeletedAndLeavesTheOthersWhereTheyAre) {
+  const ring_in_force ring;
+  identifier_table table;
+  for (const char* const name : {"A", "B", "C"}) reserve(name, table).fill(some_scheme());
+  const identifier* const first = table.find("A");
+  const identifier* const last = table.find("C");
+  const captured out(std::cout);
+  identifier_table::del(*table.find("B"), true);
+  EXPECT_EQ(out.text(), "");
+  EXPECT_EQ(table.names(), (std::vector<std::string>{"A", "C"}));
+  EXPECT_EQ(table.find("A"), first);
+  EXPECT_EQ(table.find("C"), last);
+  identifier_table::del(*table.find("A"), false);
+  EXPECT_EQ(out.text(), "A deleted\n");
+  EXPECT_EQ(table.names(), (std::vector<std::string>{"C"}));
 }
 
 TEST(IdentifierTable, DisplaysNeitherNameNorContentsOfAnotherType) {
-  std::istringstream typed("A");
-  input in(typed);
   identifier_table table;
-  const auto without_scheme = reservation::read(in, table);
+  const reservation without_scheme = reserve("A", table);
   const captured out(std::cout);
   table.list_all(false);
   EXPECT_EQ(out.text(), "\n");
   table.list_all(true);
   EXPECT_EQ(out.text(), "\n:\n");
+}
+
+TEST(Reservation, IsInTheTableFromTheStartAndFreedUnlessItIsFilled) {
+  const ring_in_force ring;
+  identifier_table table;
+  {
+    const reservation reserved = reserve("A", table);
+    ASSERT_NE(table.find("A"), nullptr);
+    EXPECT_EQ(table.find("A")->object, nullptr);
+    EXPECT_EQ(table.names(), std::vector<std::string>{"A"});
+  }
+  EXPECT_EQ(table.find("A"), nullptr);
+  {
+    reservation reserved = reserve("A", table);
+    reserved.fill(some_scheme());
+  }
+  ASSERT_NE(table.find("A"), nullptr);
+  EXPECT_NE(table.find("A")->object, nullptr);
+}
+
+TEST(Reservation, IsFreedOnceThoughItIsMoved) {
+  identifier_table table;
+  {
+    reservation first = reserve("A", table);
+    const reservation second = std::move(first);
+    EXPECT_NE(table.find("A"), nullptr);
+  }
+  EXPECT_EQ(table.find("A"), nullptr);
+}
+
+TEST(Reservation, CountsWhatItComplainsOf) {
+  identifier_table table;
+  const reservation taken = reserve("A", table);
+  const captured out(std::cout);
+  complaints wrong;
+  std::istringstream typed("A a-b");
+  input in(typed);
+  EXPECT_FALSE(reservation::read(in, table, wrong));
+  EXPECT_EQ(wrong.number(), 1);
+  EXPECT_FALSE(reservation::read(in, table, wrong));
+  EXPECT_EQ(wrong.number(), 2);
+  EXPECT_EQ(out.text(),
+            "indentifier already exists\nindentifiers have to consist only of alnums\n");
+  EXPECT_THROW(reservation::read(in, table, wrong), end_of_input);
+  EXPECT_EQ(wrong.number(), 2);
+  EXPECT_EQ(table.names(), std::vector<std::string>{"A"});
 }
 
 }  // namespace

@@ -1,14 +1,16 @@
 #include <gtest/gtest.h>
 
+#include "points/ideal/artinian_forms.h"
 #include "points/ideal/minimal_generators.h"
 #include "tests/points/computed_presentation.h"
 
 namespace zep::tests {
 namespace {
 
-// What the degrees of a scheme's relations are by its columns.
-std::vector<int> degrees_of_relations(const std::vector<coordinates>& points, const scheme& X) {
-  return plain_examination(plain_canonical_module(points), presentation_of(X)).degrees();
+// What the degrees of the relations are by their columns.
+std::vector<int> degrees_of_relations(const std::vector<coordinates>& points,
+                                      const presentation& w_R) {
+  return plain_examination(plain_canonical_module(points), presentation_of(w_R)).degrees();
 }
 
 int no_of(const std::vector<int>& degrees, int d) {
@@ -16,11 +18,9 @@ int no_of(const std::vector<int>& degrees, int d) {
 }
 
 // Degrees of the minimal generators of the homogeneous vanishing ideal.
-std::vector<int> degrees_of_minimal_generators(scheme& X) {
-  const silence quiet;
-  min_Ix(X);
+std::vector<int> degrees_of_minimal_generators(const points::order_ideal& X) {
   std::vector<int> degrees;
-  for (const polynomial& f : X.min_Ix->gen) {
+  for (const polynomial& f : min_Ix(X, Can_Lf(X)).gen) {
     degrees.push_back(f.term(0).tot_deg() + f.term(0).exp(proj - 1));
   }
   return degrees;
@@ -39,14 +39,14 @@ int no_of_maximal_members(const plain_canonical_module& module) {
 
 // Counts kinds of sets, so that a test can tell that it has seen them.
 struct kinds {
-  void add(const plain_canonical_module& module, const scheme& X) {
+  void add(const plain_canonical_module& module, const presentation& w_R) {
     const auto is_there = [](int number) { return number > 0; };
-    some_eliminated += no_of_maximal_members(module) > no_of_pr(X) ? 1 : 0;
-    all_kept += no_of_pr(X) > 1 && no_of_maximal_members(module) == no_of_pr(X) ? 1 : 0;
+    some_eliminated += no_of_maximal_members(module) > w_R.no_of_pr() ? 1 : 0;
+    all_kept += w_R.no_of_pr() > 1 && no_of_maximal_members(module) == w_R.no_of_pr() ? 1 : 0;
     generators_of_several_degrees +=
-        std::count_if(X.pr_deg.begin(), X.pr_deg.end(), is_there) > 1 ? 1 : 0;
+        std::count_if(w_R.pr_deg.begin(), w_R.pr_deg.end(), is_there) > 1 ? 1 : 0;
     relations_of_several_degrees +=
-        std::count_if(X.A_d_coldeg.begin(), X.A_d_coldeg.end(), is_there) > 1 ? 1 : 0;
+        std::count_if(w_R.A_d_coldeg.begin(), w_R.A_d_coldeg.end(), is_there) > 1 ? 1 : 0;
     in_a_hyperplane += module.initial_degree() == 1 ? 1 : 0;
   }
 
@@ -66,9 +66,9 @@ TEST(OmegaProperty, PresentationIsMinimal) {
   kinds seen;
   for_each_set([&](const std::vector<coordinates>& points) {
     const plain_canonical_module module(points);
-    const scheme X = computed(points);
-    ASSERT_EQ(faults_of(module, presentation_of(X)), faults{});
-    seen.add(module, X);
+    const presentation w_R = computed(points);
+    ASSERT_EQ(faults_of(module, presentation_of(w_R)), faults{});
+    seen.add(module, w_R);
   });
   EXPECT_GT(seen.least(), 50);
 }
@@ -77,9 +77,9 @@ TEST(OmegaProperty, PresentationOfRandomPointsIsMinimal) {
   kinds seen;
   for_each_random_or_flat_set(8, [&](const std::vector<coordinates>& points) {
     const plain_canonical_module module(points);
-    const scheme X = computed(points);
-    ASSERT_EQ(faults_of(module, presentation_of(X)), faults{});
-    seen.add(module, X);
+    const presentation w_R = computed(points);
+    ASSERT_EQ(faults_of(module, presentation_of(w_R)), faults{});
+    seen.add(module, w_R);
   });
   EXPECT_GT(seen.least(), 20);
 }
@@ -120,7 +120,7 @@ TEST(OmegaProperty, PresentationOfTwoPointsIsMinimal) {
         const ring_in_force ring(p, n, order);
         const std::vector<coordinates> points = random_points(2, random);
         ASSERT_EQ(faults_of_computed(points), faults{});
-        ASSERT_EQ(no_of_pr(computed(points)), 1);
+        ASSERT_EQ(computed(points).no_of_pr(), 1);
       }
     }
   }
@@ -132,16 +132,16 @@ TEST(OmegaProperty, PresentationOfCollinearPointsIsMinimal) {
       const ring_in_force ring(p, n);
       const std::vector<coordinates> points = points_on_curve(1, 14 - 2 * n);
       ASSERT_EQ(faults_of_computed(points), faults{});
-      ASSERT_EQ(no_of_pr(computed(points)), 1);
+      ASSERT_EQ(computed(points).no_of_pr(), 1);
     }
   }
 }
 
 TEST(OmegaProperty, EntriesAreProjectivePolynomials) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const scheme X = computed(points);
-    ASSERT_EQ(static_cast<int>(X.A_d.size()), no_of_pr(X) * X.A_d_cols);
-    for (const polynomial& f : X.A_d) {
+    const presentation w_R = computed(points);
+    ASSERT_EQ(static_cast<int>(w_R.A_d.size()), w_R.no_of_pr() * w_R.A_d_cols);
+    for (const polynomial& f : w_R.A_d) {
       for (int i = 0; i < f.no_of_monoms(); ++i) {
         if (sign(f) == 0) continue;
         ASSERT_NE(f.coef(i), 0);
@@ -155,28 +155,37 @@ TEST(OmegaProperty, EntriesAreProjectivePolynomials) {
 
 TEST(OmegaProperty, GeneratorsAndRelationsAreCountedByDegree) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const scheme X = computed(points);
+    const points::order_ideal X = walked(points);
+    const presentation w_R = omega(X, nobody());
+    std::vector<monom> monomials;
     std::vector<int> degrees;
-    for (const int position : X.pr) degrees.push_back(X.O[position].tot_deg());
-    ASSERT_EQ(static_cast<int>(X.pr_deg.size()), X.sigma + 2);
-    for (int d = 0; d < X.sigma + 2; ++d) ASSERT_EQ(X.pr_deg[d], no_of(degrees, d));
-    const std::vector<int> relations = degrees_of_relations(points, X);
-    ASSERT_EQ(X.A_d_maxdeg, relations.back());
-    ASSERT_EQ(static_cast<int>(X.A_d_coldeg.size()), X.A_d_maxdeg + 1);
-    for (int e = 0; e <= X.A_d_maxdeg; ++e) ASSERT_EQ(X.A_d_coldeg[e], no_of(relations, e));
+    for (const int position : w_R.pr) {
+      monomials.push_back(X.O[position]);
+      degrees.push_back(X.O[position].tot_deg());
+    }
+    ASSERT_EQ(w_R.pr_monom, monomials);
+    ASSERT_EQ(w_R.sigma, X.H.sigma);
+    ASSERT_EQ(static_cast<int>(w_R.pr_deg.size()), X.H.sigma + 2);
+    for (int d = 0; d < X.H.sigma + 2; ++d) ASSERT_EQ(w_R.pr_deg[d], no_of(degrees, d));
+    const std::vector<int> relations = degrees_of_relations(points, w_R);
+    ASSERT_EQ(w_R.A_d_cols, static_cast<int>(relations.size()));
+    ASSERT_EQ(w_R.A_d_maxdeg, relations.back());
+    ASSERT_EQ(static_cast<int>(w_R.A_d_coldeg.size()), w_R.A_d_maxdeg + 1);
+    for (int e = 0; e <= w_R.A_d_maxdeg; ++e) ASSERT_EQ(w_R.A_d_coldeg[e], no_of(relations, e));
   });
 }
 
 TEST(OmegaProperty, RelationsInThePlaneAreDualToTheMinimalGeneratorsOfTheIdeal) {
   for_each_set([](const std::vector<coordinates>& points) {
     if (dim != 2) return;
-    scheme X = computed(points);
+    const points::order_ideal X = walked(points);
+    const presentation w_R = omega(X, nobody());
     std::vector<int> degrees = degrees_of_minimal_generators(X);
-    for (int& d : degrees) d = X.sigma + 3 - d;
+    for (int& d : degrees) d = X.H.sigma + 3 - d;
     std::sort(degrees.begin(), degrees.end());
-    ASSERT_EQ(degrees_of_relations(points, X), degrees);
+    ASSERT_EQ(degrees_of_relations(points, w_R), degrees);
     // There is one generator less in the plane.
-    ASSERT_EQ(no_of_pr(X), X.A_d_cols - 1);
+    ASSERT_EQ(w_R.no_of_pr(), w_R.A_d_cols - 1);
   });
 }
 
@@ -192,9 +201,9 @@ int alternating_sum(const plain_artinian& artinian, int j) {
 
 // True when only the first two and the last two modules of the resolution can have generators of
 // degree j, as those of the i-th have degrees i + alpha - 1 .. i + D.
-bool is_determined(const scheme& X, int j) {
+bool is_determined(const hilbert_numbers& H, int j) {
   for (int i = 2; i <= dim - 2; ++i) {
-    if (i + X.alpha - 1 <= j && j <= i + X.sigma + 1) return false;
+    if (i + H.alpha - 1 <= j && j <= i + H.sigma + 1) return false;
   }
   return true;
 }
@@ -203,14 +212,15 @@ TEST(OmegaProperty, NumbersFitTheHilbertFunctionAndTheMinimalGeneratorsOfTheIdea
   int determined = 0;
   for_each_set([&](const std::vector<coordinates>& points) {
     if (dim == 2) return;
-    scheme X = computed(points);
+    const points::order_ideal X = walked(points);
+    const presentation w_R = omega(X, nobody());
     const plain_artinian artinian(points);
     const std::vector<int> generators = degrees_of_minimal_generators(X);
-    const int D = X.sigma + 1;
+    const int D = X.H.sigma + 1;
     for (int j = 0; j <= dim + D; ++j) {
-      if (!is_determined(X, j)) continue;
-      const int relations = dim + D - j <= X.A_d_maxdeg ? X.A_d_coldeg[dim + D - j] : 0;
-      const int last = relations - (j >= dim ? X.pr_deg[j - dim] : 0);
+      if (!is_determined(X.H, j)) continue;
+      const int relations = dim + D - j <= w_R.A_d_maxdeg ? w_R.A_d_coldeg[dim + D - j] : 0;
+      const int last = relations - (j >= dim ? w_R.pr_deg[j - dim] : 0);
       ASSERT_EQ((j == 0 ? 1 : 0) - no_of(generators, j) + (dim % 2 == 0 ? -last : last),
                 alternating_sum(artinian, j))
           << "degree " << j;
@@ -229,13 +239,14 @@ bool vanishes(const polynomial& f, const std::vector<coordinates>& points) {
 TEST(OmegaProperty, GorensteinSetsHaveOneGeneratorAndTheIdealForRelations) {
   int gorenstein = 0;
   for_each_set([&](const std::vector<coordinates>& points) {
-    scheme X = computed(points);
-    ASSERT_EQ(no_of_pr(X) == 1, plain_artinian(points).type() == 1);
-    if (no_of_pr(X) > 1) return;
+    const points::order_ideal X = walked(points);
+    const presentation w_R = omega(X, nobody());
+    ASSERT_EQ(w_R.no_of_pr() == 1, plain_artinian(points).type() == 1);
+    if (w_R.no_of_pr() > 1) return;
     ++gorenstein;
-    ASSERT_EQ(X.pr, std::vector<int>{X.s - 1});
-    for (const polynomial& f : X.A_d) ASSERT_TRUE(vanishes(f, points));
-    ASSERT_EQ(degrees_of_relations(points, X), degrees_of_minimal_generators(X));
+    ASSERT_EQ(w_R.pr, std::vector<int>{X.s() - 1});
+    for (const polynomial& f : w_R.A_d) ASSERT_TRUE(vanishes(f, points));
+    ASSERT_EQ(degrees_of_relations(points, w_R), degrees_of_minimal_generators(X));
   });
   EXPECT_GT(gorenstein, 100);
 }
@@ -243,10 +254,10 @@ TEST(OmegaProperty, GorensteinSetsHaveOneGeneratorAndTheIdealForRelations) {
 TEST(OmegaProperty, FivePointsInGeneralPositionInSpaceHaveOneGenerator) {
   for (const term_order order : {term_order::deglex, term_order::degrevlex}) {
     const ring_in_force ring(101, 3, order);
-    const scheme X = computed(points_of_frame());
-    EXPECT_EQ(X.pr, std::vector<int>{4});
-    EXPECT_EQ(X.pr_deg, (std::vector<int>{0, 0, 1}));
-    EXPECT_EQ(X.A_d_coldeg, (std::vector<int>{0, 0, 5}));
+    const presentation w_R = computed(points_of_frame());
+    EXPECT_EQ(w_R.pr, std::vector<int>{4});
+    EXPECT_EQ(w_R.pr_deg, (std::vector<int>{0, 0, 1}));
+    EXPECT_EQ(w_R.A_d_coldeg, (std::vector<int>{0, 0, 5}));
     EXPECT_EQ(faults_of_computed(points_of_frame()), faults{});
   }
 }

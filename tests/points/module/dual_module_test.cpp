@@ -16,7 +16,7 @@ weights plain_member(const module_of_points& m, int i, const std::vector<weights
   return times(projections[m.W.candidate(m.W.owner(i))], exponents_of(m.W.factor(i)), points);
 }
 
-exponents exponent_of(const dual_module& W, const scheme& X, int i) {
+exponents exponent_of(const dual_module& W, const points::order_ideal& X, int i) {
   return exponents_of(X.O[W.candidate(W.owner(i))] / W.factor(i));
 }
 
@@ -40,7 +40,7 @@ TEST(DualModule, OfFiveGeneralPointsIsKnown) {
   // Y * pr_Y is Z^2 * pr_(Z^2) modulo X_0.
   const int b = W.times(2, 1).position;
   EXPECT_EQ(W.degree(b), 0);
-  EXPECT_EQ(W.canonical_form(b, 1), std::vector<Fp8>{Fp8(1)});
+  EXPECT_EQ(W.canonical_form(b, 1), (row{Fp8(1)}));
 }
 
 TEST(DualModule, OfNoPointsIsEmpty) {
@@ -129,7 +129,7 @@ TEST(DualModuleProperty, CanonicalFormsAreTheProductsInTheModule) {
     const std::vector<weights> projections =
         plain_projections(plain_facts(points).order_ideal, points);
     for (int b = 0; b < m.W.no_of_border(); ++b) {
-      const std::vector<Fp8> form = m.W.canonical_form(b, m.W.no_of_members());
+      const row form = m.W.canonical_form(b, m.W.no_of_members());
       weights sum(points.size(), 0);
       for (int i = 0; i < m.W.no_of_members(); ++i) {
         const int c = form[i].value();
@@ -156,9 +156,9 @@ TEST(DualModuleProperty, CanonicalFormsModuloX0AreTheirFirstPart) {
     const module_of_points m(points);
     for (int b = 0; b < m.W.no_of_border(); ++b) {
       const int members = m.W.begin(m.W.degree(b) + 1);
-      const std::vector<Fp8> all = m.W.canonical_form(b, m.W.no_of_members());
-      const std::vector<Fp8> first = m.W.canonical_form(b, members);
-      ASSERT_EQ(first, std::vector<Fp8>(all.begin(), all.begin() + members));
+      const row all = m.W.canonical_form(b, m.W.no_of_members());
+      const row first = m.W.canonical_form(b, members);
+      ASSERT_EQ(first, row(all.begin(), all.begin() + members));
     }
   });
 }
@@ -168,7 +168,7 @@ TEST(DualModuleProperty, CanonicalFormsModuloX0AreSmallerInTheTermOrder) {
     const module_of_points m(points);
     for (int b = 0; b < m.W.no_of_border(); ++b) {
       const auto& [exponent, owner, member, variable_taken] = m.W.border(b);
-      const std::vector<Fp8> form = m.W.canonical_form(b, m.W.begin(m.W.degree(b) + 1));
+      const row form = m.W.canonical_form(b, m.W.begin(m.W.degree(b) + 1));
       for (std::size_t i = 0; i < form.size(); ++i) {
         if (form[i] == 0) continue;
         ASSERT_TRUE(m.X.O[i] > exponent ||

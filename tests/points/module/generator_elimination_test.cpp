@@ -49,9 +49,11 @@ TEST(GeneratorElimination, OfOnePointLeavesItsCoordinates) {
   EXPECT_EQ(first[1].c, -Fp8(5));
 }
 
-TEST(GeneratorElimination, LeavesTheDimensionAsItWas) {
+TEST(GeneratorElimination, LeavesTheRingAsItWas) {
   const ring_in_force ring;
+  const arith::ring before = current_ring();
   const eliminated_module e({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {3, 7, 11}});
+  EXPECT_EQ(current_ring(), before);
   EXPECT_EQ(dim, 3);
   EXPECT_EQ(proj, 4);
 }

@@ -126,7 +126,7 @@ TEST(PlainPresentation, WithTheWrongChoiceOfMaximalMonomialsIsNoted) {
 
 TEST(PlainPresentation, WithRelationsInTheWrongOrderIsNoted) {
   const ring_in_force ring(101, 2);
-  plain_presentation wrong = presentation(three_on_a_line);
+  plain_presentation wrong = plain_presentation_of(three_on_a_line);
   ASSERT_EQ(faults_of(three_on_a_line, wrong), faults{});
   std::reverse(wrong.relations.begin(), wrong.relations.end());
   EXPECT_EQ(faults_of(three_on_a_line, wrong), faults{relations_not_ascending});
@@ -135,7 +135,7 @@ TEST(PlainPresentation, WithRelationsInTheWrongOrderIsNoted) {
 TEST(PlainPresentation, WithoutAnyOneOfTheRelationsIsNoted) {
   for_each_random_or_flat_set(1, [](const std::vector<coordinates>& points) {
     const plain_canonical_module module(points);
-    const plain_presentation right = presentation(points);
+    const plain_presentation right = plain_presentation_of(points);
     ASSERT_FALSE(right.relations.empty());
     const std::size_t step = right.relations.size() / 6 + 1;
     for (std::size_t c = 0; c < right.relations.size(); c += step) {
@@ -149,7 +149,7 @@ TEST(PlainPresentation, WithoutAnyOneOfTheRelationsIsNoted) {
 TEST(PlainPresentation, WithAMultipleOfARelationAddedIsNoted) {
   for_each_random_or_flat_set(1, [](const std::vector<coordinates>& points) {
     const plain_canonical_module module(points);
-    plain_presentation wrong = presentation(points);
+    plain_presentation wrong = plain_presentation_of(points);
     const std::vector<int> degrees = plain_examination(module, wrong).degrees();
     const int degree = degrees.front() + 1;
     plain_relation multiple = wrong.relations.front();
@@ -166,7 +166,7 @@ TEST(PlainPresentation, WithAChangedCoefficientIsNotedUnlessItsTermIsARelation) 
   int noted = 0;
   for_each_random_or_flat_set(1, [&](const std::vector<coordinates>& points) {
     const plain_canonical_module module(points);
-    plain_presentation wrong = presentation(points);
+    plain_presentation wrong = plain_presentation_of(points);
     plain_relation& last = wrong.relations.back();
     const auto changed = std::find_if(last.begin(), last.end(),
                                       [](const plain_form& entry) { return !entry.empty(); });

@@ -6,24 +6,16 @@
 #include <set>
 #include <utility>
 
-#include "points/walk/buchberger_moeller.h"
 #include "tests/points/point_sets.h"
 #include "tests/points/special_sets.h"
 
 namespace zep::tests {
 namespace {
 
-scheme with_bu_mo(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  bu_mo(X);
-  return X;
-}
-
 // A syzygy monomial as exponents and owner.
 using plain_syzygy = std::pair<exponents, int>;
 
-std::vector<plain_syzygy> syzygies_of(const scheme& X) {
+std::vector<plain_syzygy> syzygies_of(const points::order_ideal& X) {
   std::vector<plain_syzygy> found;
   for (const auto& [T, owner] : syzygy_monomials(X, candidate_projections(X))) {
     found.emplace_back(exponents_of(T), owner);
@@ -31,7 +23,7 @@ std::vector<plain_syzygy> syzygies_of(const scheme& X) {
   return found;
 }
 
-std::vector<exponents> needed_of(const scheme& X) {
+std::vector<exponents> needed_of(const points::order_ideal& X) {
   std::vector<exponents> found;
   for (const monom& t : needed_monomials(X, syzygy_monomials(X, candidate_projections(X)))) {
     found.push_back(exponents_of(t));
@@ -82,7 +74,7 @@ std::vector<plain_syzygy> plain_syzygies(const std::vector<exponents>& candidate
 
 TEST(Projections, OfFiveGeneralPointsHaveThreeCandidatesAndNineSyzygies) {
   const ring_in_force ring;
-  const scheme X = with_bu_mo({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {3, 7, 11}});
+  const points::order_ideal X = walked({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {3, 7, 11}});
   // The order ideal is 1, Z, Y, X, Z^2.
   EXPECT_EQ(candidate_projections(X), (std::vector<int>{2, 3, 4}));
   EXPECT_EQ(syzygies_of(X), (std::vector<plain_syzygy>{{{0, 1, 0}, 0},
@@ -99,7 +91,7 @@ TEST(Projections, OfFiveGeneralPointsHaveThreeCandidatesAndNineSyzygies) {
 
 TEST(Projections, OfOnePointAreThatToTheConstantKilledByTheVariables) {
   const ring_in_force ring(101, 2);
-  const scheme X = with_bu_mo({{3, 4}});
+  const points::order_ideal X = walked({{3, 4}});
   EXPECT_EQ(candidate_projections(X), std::vector<int>{0});
   EXPECT_EQ(syzygies_of(X), (std::vector<plain_syzygy>{{{1, 0}, 0}, {{0, 1}, 0}}));
   EXPECT_EQ(needed_of(X), (std::vector<exponents>{{0, 1}, {1, 0}}));
@@ -107,7 +99,7 @@ TEST(Projections, OfOnePointAreThatToTheConstantKilledByTheVariables) {
 
 TEST(Projections, OfNoPointsAreNone) {
   const ring_in_force ring(101, 2);
-  const scheme X = with_bu_mo({});
+  const points::order_ideal X = walked({});
   EXPECT_TRUE(candidate_projections(X).empty());
   EXPECT_TRUE(syzygies_of(X).empty());
   EXPECT_TRUE(needed_of(X).empty());
@@ -116,26 +108,26 @@ TEST(Projections, OfNoPointsAreNone) {
 TEST(Projections, OfEqualSyzygyMonomialsTheLastStays) {
   const ring_in_force ring(101, 2);
   // The candidates of three points off a line are Y and X, and the pair gives Y, as does no power.
-  const scheme X = with_bu_mo({{0, 0}, {1, 0}, {0, 1}});
+  const points::order_ideal X = walked({{0, 0}, {1, 0}, {0, 1}});
   EXPECT_EQ(syzygies_of(X),
             (std::vector<plain_syzygy>{{{0, 1}, 0}, {{1, 0}, 0}, {{2, 0}, 1}, {{0, 1}, 1}}));
   // Those of a grid with a gap: 1, Y, X, Y^2, XY has the candidates Y^2 and XY.
-  const scheme G = with_bu_mo({{0, 0}, {1, 0}, {0, 1}, {1, 1}, {0, 2}});
+  const points::order_ideal G = walked({{0, 0}, {1, 0}, {0, 1}, {1, 1}, {0, 2}});
   EXPECT_EQ(syzygies_of(G),
             (std::vector<plain_syzygy>{{{0, 1}, 0}, {{1, 0}, 0}, {{2, 0}, 1}, {{0, 2}, 1}}));
 }
 
 TEST(Projections, DoNotCountWhatOnlyFillsTheOrderIdealUp) {
   const ring_in_force ring(101, 2);
-  const scheme X = with_bu_mo({{3, 4}, {3, 4}, {1, 1}});
+  const points::order_ideal X = walked({{3, 4}, {3, 4}, {1, 1}});
   EXPECT_EQ(candidate_projections(X), std::vector<int>{1});
-  const scheme one = with_bu_mo({{3, 4}, {3, 4}});
+  const points::order_ideal one = walked({{3, 4}, {3, 4}});
   EXPECT_EQ(candidate_projections(one), std::vector<int>{0});
 }
 
 TEST(ProjectionsProperty, CandidatesAreTheMembersThatDivideNoOther) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const scheme X = with_bu_mo(points);
+    const points::order_ideal X = walked(points);
     const std::vector<exponents> O = plain_facts(points).order_ideal;
     std::vector<int> maximal;
     for (std::size_t i = 0; i < O.size(); ++i) {
@@ -149,7 +141,7 @@ TEST(ProjectionsProperty, CandidatesAreTheMembersThatDivideNoOther) {
 
 TEST(ProjectionsProperty, SyzygyMonomialsAreThoseLeftWhenMultiplesAreTakenAwayOneByOne) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const scheme X = with_bu_mo(points);
+    const points::order_ideal X = walked(points);
     std::vector<exponents> candidates;
     for (const int i : candidate_projections(X)) candidates.push_back(exponents_of(X.O[i]));
     ASSERT_EQ(syzygies_of(X), plain_syzygies(candidates));
@@ -158,7 +150,7 @@ TEST(ProjectionsProperty, SyzygyMonomialsAreThoseLeftWhenMultiplesAreTakenAwayOn
 
 TEST(ProjectionsProperty, NeededMonomialsAreAllProductsOutsideTheOrderIdealAscending) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const scheme X = with_bu_mo(points);
+    const points::order_ideal X = walked(points);
     std::vector<exponents> factors = plain_facts(points).order_ideal;
     const std::set<exponents> O(factors.begin(), factors.end());
     for (const auto& [T, owner] : syzygies_of(X)) {

@@ -2,21 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include "arith/ordering.h"
 #include "tests/arith/power_product.h"
 #include "tests/ring_in_force.h"
 
 namespace zep::tests {
 namespace {
 
-monom X(int e = 1) { return power_product({e}); }
-monom Y(int e = 1) { return power_product({0, e}); }
-monom Z(int e = 1) { return power_product({0, 0, e}); }
+monom X(int e = 1) { return projective({e}); }
+monom Y(int e = 1) { return projective({0, e}); }
+monom Z(int e = 1) { return projective({0, 0, e}); }
 
 using components = std::vector<std::vector<polynomial>>;
 
 TEST(FormVectors, GiveTheirComponentsBack) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const components given = {{sum_of({{1, X()}, {3, Z()}}), polynomial(0)},
                             {polynomial(0), polynomial(0)},
                             {polynomial(Z()), sum_of({{100, Y()}, {2, Z()}})}};
@@ -31,7 +31,6 @@ TEST(FormVectors, GiveTheirComponentsBack) {
 
 TEST(FormVectors, BeginInTheGreatestComponentTheFirstOfSeveral) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const form_vectors vectors = vectors_of({{polynomial(Y()), polynomial(X()), polynomial(X())},
                                            {polynomial(0), polynomial(Z()), polynomial(Y())},
                                            {polynomial(0), polynomial(0), polynomial(0)}},
@@ -45,7 +44,6 @@ TEST(FormVectors, BeginInTheGreatestComponentTheFirstOfSeveral) {
 
 TEST(FormVectors, AreInterreducedOneByOne) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   form_vectors vectors = vectors_of({{sum_of({{2, X()}, {4, Y()}}), polynomial(0)},
                                      {sum_of({{1, X()}, {3, Y()}}), polynomial(Z())},
                                      {sum_of({{1, X()}, {2, Y()}}), polynomial(0)}},

@@ -3,7 +3,6 @@
 #include "points/strand/linear_strand.h"
 #include "points/strand/linid.h"
 #include "points/strand/linom.h"
-#include "tests/points/computing.h"
 #include "tests/points/plain_presentation.h"
 #include "tests/points/plain_strand.h"
 #include "tests/points/strand_sets.h"
@@ -13,19 +12,19 @@ namespace {
 
 TEST(LinearStrandMeaning, NumbersAreThoseOfTheResolutionOfTheRing) {
   for_each_special_or_random_set([](const std::vector<coordinates>& points) {
-    scheme X = prepared(points);
-    by([&](std::ostream&) {
-      linid(X);
-      linom(X);
-    });
+    const strand_starts start(points);
+    const std::vector<int> I_X =
+        linid(start.min_Ix, start.X.H.alpha, nobody(), [](int, const form_vectors&) {});
+    const std::vector<int> w_R =
+        linom(start.w_R, nobody(), [](int, const form_vectors&) { return true; });
     const plain_artinian artinian(points);
     const plain_betti betti(artinian);
     const int D = artinian.top_degree();
-    ASSERT_EQ(static_cast<int>(X.linres[0].size()), dim);
-    ASSERT_EQ(static_cast<int>(X.linres[1].size()), dim);
+    ASSERT_EQ(static_cast<int>(I_X.size()), dim);
+    ASSERT_EQ(static_cast<int>(w_R.size()), dim);
     for (int i = 1; i <= dim; ++i) {
-      ASSERT_EQ(X.linres[0][i - 1], betti(i, i + X.alpha - 1)) << "module " << i;
-      ASSERT_EQ(X.linres[1][i - 1], betti(i, i + D)) << "module " << i;
+      ASSERT_EQ(I_X[i - 1], betti(i, i + start.X.H.alpha - 1)) << "module " << i;
+      ASSERT_EQ(w_R[i - 1], betti(i, i + D)) << "module " << i;
     }
   });
 }
@@ -33,7 +32,7 @@ TEST(LinearStrandMeaning, NumbersAreThoseOfTheResolutionOfTheRing) {
 // The vectors of all levels, as components.
 using vectors_by_level = std::vector<std::vector<plain_vector>>;
 
-level_report collection(vectors_by_level& levels) {
+level_visitor collection(vectors_by_level& levels) {
   return [&levels](int, const form_vectors& vectors) {
     levels.emplace_back();
     for (int i = 0; i < vectors.count(); ++i) levels.back().push_back(vectors.components(i));
@@ -41,19 +40,18 @@ level_report collection(vectors_by_level& levels) {
   };
 }
 
-vectors_by_level levels_of_I_X(const scheme& X) {
+vectors_by_level levels_of_I_X(const ideal& min_Ix) {
   vectors_by_level levels;
-  const silence quiet;
-  strand_of_generators(vectors_of(plain_generators(X).vectors, 1), collection(levels));
+  strand_of_generators(vectors_of(plain_generators(min_Ix).vectors, 1), nobody(),
+                       collection(levels));
   return levels;
 }
 
 // With the generators, on which the relations say nothing, left out.
-vectors_by_level levels_of_w_R(const scheme& X) {
+vectors_by_level levels_of_w_R(const presentation& w_R) {
   vectors_by_level levels;
-  const int rank = plain_no_of_generators(X);
-  const silence quiet;
-  strand_of_relations(vectors_of(plain_relations(X, rank), rank), collection(levels));
+  const int rank = plain_no_of_generators(w_R);
+  strand_of_relations(vectors_of(plain_relations(w_R, rank), rank), nobody(), collection(levels));
   return levels;
 }
 
@@ -108,13 +106,12 @@ int dimension(const std::vector<plain_vector>& vectors) {
 }
 
 std::vector<plain_vector> products_with_variables(const std::vector<plain_vector>& vectors) {
-  const raised_dim projective;
   std::vector<plain_vector> products;
   for (const plain_vector& v : vectors) {
     if (is_zero(v)) continue;
-    for (int x = 0; x < dim; ++x) {
+    for (int x = 0; x < proj; ++x) {
       products.push_back(v);
-      for (polynomial& f : products.back()) f *= variable(x);
+      for (polynomial& f : products.back()) f *= projective_variable(x);
     }
   }
   return products;
@@ -150,13 +147,13 @@ TEST(LinearStrandMeaning, VectorsOfTheIdealAreABasisOfTheLinearSyzygies) {
   for_each_set([](const std::vector<coordinates>& points) {
     // The largest take most of the time.
     if (dim == 5 && points.size() > 20) return;
-    expect_syzygies(levels_of_I_X(prepared(points)));
+    expect_syzygies(levels_of_I_X(strand_starts(points).min_Ix));
   });
 }
 
 TEST(LinearStrandMeaning, VectorsOfTheCanonicalModuleAreABasisOfTheLinearSyzygies) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const vectors_by_level levels = levels_of_w_R(prepared(points));
+    const vectors_by_level levels = levels_of_w_R(strand_starts(points).w_R);
     for (const plain_vector& v : levels[0]) ASSERT_TRUE(std::all_of(v.begin(), v.end(), is_linear));
     expect_syzygies(levels);
   });

@@ -30,8 +30,6 @@ struct kinds {
   int ending_in_zeros = 0;
 };
 
-// Step by step. -----------------------------------------------------------------------------------
-
 std::vector<std::string> texts(const plain_vector& components) {
   std::vector<std::string> result;
   result.reserve(components.size());
@@ -54,173 +52,149 @@ void expect_level(const form_vectors& found, const plain_level& expected) {
   }
 }
 
-// A report that compares the levels with those of the strand; `reported` counts them.
-level_report comparison(const plain_strand& strand, int first, int& reported) {
-  return [&strand, first, &reported](int level, const form_vectors& found) {
-    const int index = level - first;
-    EXPECT_EQ(index, reported);
-    EXPECT_LT(index, static_cast<int>(strand.levels.size()));
+// Compares levels with those of a strand, one after the other. `first` is the level of its first.
+class comparison {
+ public:
+  comparison(const plain_strand& strand, int first) : strand_(strand), first_(first) {}
+
+  // False when something is wrong.
+  bool visit(int level, const form_vectors& found) {
+    const int index = level - first_;
+    EXPECT_EQ(index, visited_);
+    EXPECT_LT(index, static_cast<int>(strand_.levels.size()));
     if (::testing::Test::HasFailure()) return false;
-    ++reported;
-    expect_level(found, strand.levels[index]);
+    ++visited_;
+    expect_level(found, strand_.levels[index]);
     return !::testing::Test::HasFailure();
-  };
-}
-
-// Runs a strand with a report that it is given.
-template <class Run>
-void expect_levels(const plain_strand& strand, int first, Run run) {
-  int reported = 0;
-  by([&](std::ostream&) { run(comparison(strand, first, reported)); });
-  ASSERT_EQ(reported, static_cast<int>(strand.levels.size()));
-}
-
-void expect_levels_of_I_X(const scheme& X, const plain_strand& strand) {
-  const form_vectors generators = vectors_of(plain_generators(X).vectors, 1);
-  expect_levels(strand, 0,
-                [&](const level_report& report) { strand_of_generators(generators, report); });
-}
-
-void expect_levels_of_w_R(const scheme& X, const plain_strand& strand) {
-  const int rank = plain_no_of_generators(X);
-  const form_vectors relations = vectors_of(plain_relations(X, rank), rank);
-  expect_levels(strand, 1,
-                [&](const level_report& report) { strand_of_relations(relations, report); });
-}
-
-// The vanishing ideal. ----------------------------------------------------------------------------
-
-// Vectors between the marks.
-std::string screen_form_of_I_X(const plain_strand& strand) {
-  std::string text = strand.levels[0].marks;
-  for (std::size_t k = 1; k < strand.levels.size(); ++k) {
-    text += plain_screen_form(strand.levels[k]) + strand.levels[k].marks;
   }
-  return text;
-}
 
-std::string file_form_of_I_X(const plain_strand& strand) {
-  std::string text;
-  for (std::size_t k = 1; k < strand.levels.size(); ++k) text += plain_file_form(strand.levels[k]);
-  return text;
-}
-
-std::string matrices_of_I_X(const plain_strand& strand) {
-  std::string text;
-  for (int k = 0; k < static_cast<int>(strand.levels.size()); ++k) {
-    text += plain_matrix(strand.levels[k], k + 1, "I_X");
+  level_visitor visitor() {
+    return [this](int level, const form_vectors& found) { return visit(level, found); };
   }
-  return text;
+
+  void expect_all_visited() const { ASSERT_EQ(visited_, static_cast<int>(strand_.levels.size())); }
+
+ private:
+  const plain_strand& strand_;
+  int first_;
+  int visited_ = 0;
+};
+
+void expect_levels_of_I_X(const ideal& min_Ix, const plain_strand& strand) {
+  comparison levels(strand, 0);
+  strand_of_generators(vectors_of(plain_generators(min_Ix).vectors, 1), nobody(), levels.visitor());
+  levels.expect_all_visited();
 }
 
-void expect_linid(scheme X, const plain_strand& strand) {
-  const written found = by([&](std::ostream&) { linid(X); });
-  ASSERT_EQ(found.out, strand.marks());
-  ASSERT_EQ(found.err, strand.progress);
-  ASSERT_EQ(X.linres[0], strand.numbers);
-  ASSERT_EQ(X.linid, 1);
+void expect_linid(const strand_starts& start, const plain_strand& strand) {
+  comparison levels(strand, 0);
+  told reporter;
+  const auto act = [&](int level, const form_vectors& vectors) { levels.visit(level, vectors); };
+  ASSERT_EQ(linid(start.min_Ix, start.X.H.alpha, reporter, act), strand.numbers);
+  levels.expect_all_visited();
+  ASSERT_EQ(reporter.out, strand.marks());
+  ASSERT_EQ(reporter.err, strand.progress);
 }
 
-void expect_linsyz(scheme X, const plain_strand& strand) {
-  const written found = by([&](std::ostream&) { linsyz(std::cout, X); });
-  ASSERT_EQ(found.out, screen_form_of_I_X(strand));
-  ASSERT_EQ(found.err, strand.progress);
-  ASSERT_EQ(X.linres[0], strand.numbers);
-  ASSERT_EQ(X.linid, 0);
-}
-
-void expect_files_of_I_X(scheme X, const plain_strand& strand) {
-  ASSERT_EQ(by([&](std::ostream& out) { putlinsyz(out, X); }).given, file_form_of_I_X(strand));
-  ASSERT_EQ(X.linid, 0);
-  ASSERT_EQ(by([&](std::ostream& out) { putlinid(out, X); }).given, matrices_of_I_X(strand));
-  ASSERT_EQ(X.linid, 1);
-  ASSERT_EQ(X.linres[0], strand.numbers);
-}
-
-TEST(LinearStrandProperty, OfTheIdealIsComputedReportedAndWrittenAsThePlainStrand) {
+TEST(LinearStrandProperty, OfTheIdealIsComputedAndToldAsThePlainStrand) {
   kinds seen;
   for_each_special_or_random_set([&](const std::vector<coordinates>& points) {
-    const scheme X = prepared(points);
-    const plain_strand strand = plain_strand_of_I_X(X);
-    expect_levels_of_I_X(X, strand);
-    expect_linid(X, strand);
-    expect_linsyz(X, strand);
-    expect_files_of_I_X(X, strand);
+    const strand_starts start(points);
+    const plain_strand strand = plain_strand_of_I_X(start.min_Ix, start.X.H.alpha);
+    expect_levels_of_I_X(start.min_Ix, strand);
+    expect_linid(start, strand);
     seen.add(strand);
   });
   EXPECT_GT(std::min(seen.long_ones, seen.marked), 50);
   EXPECT_GT(std::min(seen.with_zero_vectors, seen.ending_in_zeros), 20);
 }
 
-// The canonical module. ---------------------------------------------------------------------------
-
-std::string matrices_of_w_R(const plain_strand& strand) {
-  std::string text;
-  for (int k = 0; k < static_cast<int>(strand.levels.size()); ++k) {
-    text += plain_matrix(strand.levels[k], k + 1, "w_R");
-  }
-  return text;
+void expect_levels_of_w_R(const presentation& w_R, const plain_strand& strand) {
+  const int rank = plain_no_of_generators(w_R);
+  comparison levels(strand, 1);
+  strand_of_relations(vectors_of(plain_relations(w_R, rank), rank), nobody(), levels.visitor());
+  levels.expect_all_visited();
 }
 
-void expect_linom(scheme X, const plain_strand& strand) {
-  const written found = by([&](std::ostream&) { linom(X); });
-  ASSERT_EQ(found.out, strand.marks());
-  ASSERT_EQ(found.err, strand.progress);
-  ASSERT_EQ(X.linres[1], strand.numbers);
-  ASSERT_EQ(X.linom, 1);
+void expect_linom(const presentation& w_R, const plain_strand& strand) {
+  comparison levels(strand, 1);
+  told reporter;
+  ASSERT_EQ(linom(w_R, reporter, levels.visitor()), strand.numbers);
+  levels.expect_all_visited();
+  ASSERT_EQ(reporter.out, strand.marks());
+  ASSERT_EQ(reporter.err, strand.progress);
 }
 
-void expect_file_of_w_R(scheme X, const plain_strand& strand) {
-  ASSERT_EQ(by([&](std::ostream& out) { putlinom(out, X); }).given, matrices_of_w_R(strand));
-  ASSERT_EQ(X.linres[1], strand.numbers);
-  ASSERT_EQ(X.linom, 1);
-}
-
-TEST(LinearStrandProperty, OfTheCanonicalModuleIsComputedReportedAndWrittenAsThePlainStrand) {
+TEST(LinearStrandProperty, OfTheCanonicalModuleIsComputedAndToldAsThePlainStrand) {
   kinds seen;
   for_each_special_or_random_set([&](const std::vector<coordinates>& points) {
-    const scheme X = prepared(points);
-    const plain_strand strand = plain_strand_of_w_R(X);
-    expect_levels_of_w_R(X, strand);
-    expect_linom(X, strand);
-    expect_file_of_w_R(X, strand);
+    const strand_starts start(points);
+    const plain_strand strand = plain_strand_of_w_R(start.w_R);
+    expect_levels_of_w_R(start.w_R, strand);
+    expect_linom(start.w_R, strand);
     seen.add(strand);
   });
   EXPECT_GT(std::min(seen.long_ones, seen.marked), 50);
 }
 
-TEST(LinearStrandProperty, LinomsyzPrintsTheFirstLevelOfThePlainStrand) {
+TEST(LinearStrandProperty, OfTheCanonicalModuleEndsWhereTheVisitorWantsIt) {
   for_each_special_or_random_set([](const std::vector<coordinates>& points) {
-    scheme X = prepared(points);
-    const plain_strand strand = plain_strand_of_w_R(X, plain_extent::linear_relations);
-    const written found = by([&](std::ostream&) { linomsyz(std::cout, X); });
-    ASSERT_EQ(found.out, plain_screen_form(strand.levels[0]));
-    ASSERT_EQ(found.err, strand.progress);
-    ASSERT_EQ(by([&](std::ostream& out) { putlinomsyz(out, X); }).given,
-              plain_file_form(strand.levels[0]));
-    ASSERT_EQ(X.linres[1], strand.numbers);
-    ASSERT_EQ(X.linom, 0);
+    const strand_starts start(points);
+    const plain_strand strand = plain_strand_of_w_R(start.w_R, plain_extent::linear_relations);
+    comparison levels(strand, 1);
+    told reporter;
+    const auto visit = [&](int level, const form_vectors& vectors) {
+      levels.visit(level, vectors);
+      return false;
+    };
+    ASSERT_EQ(linom(start.w_R, reporter, visit), strand.numbers);
+    levels.expect_all_visited();
+    ASSERT_EQ(reporter.out, "");
+    ASSERT_EQ(reporter.err, strand.progress);
   });
 }
 
-TEST(LinearStrandProperty, MarksAppearWithoutProgress) {
-  const int before = verbose;
-  verbose = 0;
+// What a set that remembers makes of them: the numbers and their marks.
+TEST(LinearStrandProperty, NumbersOfASetCountWhenTheyAreMeantTo) {
+  for_each_random_set(
+      {.seed = 89, .rounds = 1, .most_points_of_P5 = 25},
+      [](const std::vector<coordinates>& points) {
+        scheme X = make_set(points);
+        const plain_strand I_X = plain_strand_of_I_X(X.min_Ix(), X.bu_mo().H.alpha);
+        const plain_strand w_R = plain_strand_of_w_R(X.omega());
+        const plain_strand start_of_w_R =
+            plain_strand_of_w_R(X.omega(), plain_extent::linear_relations);
+        const strand_numbers& strands = X.known().strands;
+        X.linid([](int, const form_vectors&) {}, scheme::numbers::stay);
+        ASSERT_EQ(strands.linres[0], I_X.numbers);
+        ASSERT_FALSE(strands.linid);
+        X.linid([](int, const form_vectors&) {}, scheme::numbers::count);
+        ASSERT_EQ(strands.linres[0], I_X.numbers);
+        ASSERT_TRUE(strands.linid);
+        X.linom([](int, const form_vectors&) { return false; }, scheme::numbers::stay);
+        ASSERT_EQ(strands.linres[1], start_of_w_R.numbers);
+        ASSERT_FALSE(strands.linom);
+        X.linom([](int, const form_vectors&) { return true; }, scheme::numbers::count);
+        ASSERT_EQ(strands.linres[1], w_R.numbers);
+        ASSERT_TRUE(strands.linom);
+      });
+}
+
+TEST(LinearStrandProperty, MarksAreTheSameForWhoeverListens) {
   int marked = 0;
   for_each_random_set({.seed = 83, .rounds = 2, .most_points_of_P5 = 25},
                       [&](const std::vector<coordinates>& points) {
-                        scheme X = prepared(points);
-                        const plain_strand I_X = plain_strand_of_I_X(X);
-                        const plain_strand w_R = plain_strand_of_w_R(X);
-                        const written found = by([&](std::ostream&) {
-                          linid(X);
-                          linom(X);
-                        });
-                        ASSERT_EQ(found.out, I_X.marks() + w_R.marks());
-                        ASSERT_EQ(found.err, "");
-                        marked += found.out.empty() ? 0 : 1;
+                        const strand_starts start(points);
+                        const int alpha = start.X.H.alpha;
+                        const plain_strand I_X = plain_strand_of_I_X(start.min_Ix, alpha);
+                        const plain_strand w_R = plain_strand_of_w_R(start.w_R);
+                        told inattentive(false);
+                        linid(start.min_Ix, alpha, inattentive, [](int, const form_vectors&) {});
+                        linom(start.w_R, inattentive,
+                              [](int, const form_vectors&) { return true; });
+                        ASSERT_EQ(inattentive.out, I_X.marks() + w_R.marks());
+                        marked += inattentive.out.empty() ? 0 : 1;
                       });
-  verbose = before;
   EXPECT_GT(marked, 10);
 }
 

@@ -2,18 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include "base/reporter.h"
+#include <sstream>
+
 #include "tests/arith/power_product.h"
-#include "tests/captured.h"
-#include "tests/points/computing.h"
 #include "tests/ring_in_force.h"
+#include "tests/told.h"
+#include "tests/told_in_order.h"
 
 namespace zep::tests {
 namespace {
 
-monom X(int e = 1) { return power_product({e}); }
-monom Y(int e = 1) { return power_product({0, e}); }
-monom Z(int e = 1) { return power_product({0, 0, e}); }
+monom X(int e = 1) { return projective({e}); }
+monom Y(int e = 1) { return projective({0, e}); }
+monom Z(int e = 1) { return projective({0, 0, e}); }
 
 bool operator==(const linear_pair& a, const linear_pair& b) {
   return a.i == b.i && a.j == b.j && a.times_i == b.times_i && a.times_j == b.times_j;
@@ -32,15 +33,13 @@ struct result {
 };
 
 result syzygies_of(const form_vectors& G, const std::vector<linear_pair>& pairs) {
-  const captured out(std::cout);
-  const captured err(std::cerr);
-  form_vectors syzygies = linear_syzygies(G, pairs);
-  return {std::move(syzygies), out.text(), err.text()};
+  told reporter;
+  form_vectors syzygies = linear_syzygies(G, pairs, reporter);
+  return {std::move(syzygies), reporter.out, reporter.err};
 }
 
 TEST(PairsOfGenerators, HaveACommonMultipleOneDegreeHigher) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const form_vectors G = generators(
       {polynomial(X() * Y()), polynomial(Y(2)), polynomial(X(2)), polynomial(X() * Z())});
   const std::vector<linear_pair> pairs = pairs_of_generators(G);
@@ -52,7 +51,6 @@ TEST(PairsOfGenerators, HaveACommonMultipleOneDegreeHigher) {
 
 TEST(PairsOfGenerators, AreNoneWhenTheLeadingMonomialsAreFarApart) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   EXPECT_TRUE(pairs_of_generators(generators({polynomial(X(2)), polynomial(Y(2))})).empty());
   EXPECT_TRUE(pairs_of_generators(generators({polynomial(X(2))})).empty());
   EXPECT_TRUE(pairs_of_generators(generators({})).empty());
@@ -60,7 +58,6 @@ TEST(PairsOfGenerators, AreNoneWhenTheLeadingMonomialsAreFarApart) {
 
 TEST(PairsOfLinearVectors, HaveTheirFirstTermsAtOnePosition) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const polynomial zero(0);
   const form_vectors G = vectors_of({{polynomial(X()), zero},
                                      {zero, polynomial(Y())},
@@ -78,7 +75,6 @@ TEST(PairsOfLinearVectors, HaveTheirFirstTermsAtOnePosition) {
 
 TEST(LinearSyzygies, OfAPairHaveMinusItsFirstFactorAndItsSecond) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const form_vectors G = generators({polynomial(X() * Y()), polynomial(Y(2))});
   const result found = syzygies_of(G, pairs_of_generators(G));
   ASSERT_EQ(found.syzygies.count(), 1);
@@ -90,7 +86,6 @@ TEST(LinearSyzygies, OfAPairHaveMinusItsFirstFactorAndItsSecond) {
 
 TEST(LinearSyzygies, AreZeroWhereSomethingIsLeftWhichADotMarks) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const form_vectors G = generators({sum_of({{1, X() * Y()}, {1, Z(2)}}), polynomial(Y(2))});
   const result found = syzygies_of(G, pairs_of_generators(G));
   ASSERT_EQ(found.syzygies.count(), 1);
@@ -100,16 +95,16 @@ TEST(LinearSyzygies, AreZeroWhereSomethingIsLeftWhichADotMarks) {
 
 TEST(LinearSyzygies, AreCountedBeforeTheyAreMarked) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const form_vectors G = generators(
       {sum_of({{1, X() * Y()}, {1, Z(2)}}), polynomial(Y(2)), sum_of({{1, X(2)}, {2, Z(2)}})});
-  EXPECT_EQ(on_screen([&](std::ostream&) { linear_syzygies(G, pairs_of_generators(G)); }),
-            "eliminating syzygies ...\n[2].[1].\n");
+  std::ostringstream screen;
+  told_in_order reporter(screen);
+  linear_syzygies(G, pairs_of_generators(G), reporter);
+  EXPECT_EQ(screen.str(), "eliminating syzygies ...\n[2].[1].\n");
 }
 
 TEST(LinearSyzygies, UseWhatEarlierPairsHaveLeft) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const polynomial zero(0);
   // X * G_1 - Y * G_0 and Z * G_0 - X * G_2 both leave Z^2 at position 1, up to a factor.
   const form_vectors G = vectors_of({{polynomial(X()), polynomial(Z())},
@@ -125,7 +120,7 @@ TEST(LinearSyzygies, UseWhatEarlierPairsHaveLeft) {
             (std::vector{zero, -polynomial(Z()), polynomial(Y()), zero}));
 }
 
-TEST(LinearSyzygies, OfNoPairsReportAnEmptyLine) {
+TEST(LinearSyzygies, OfNoPairsTellAnEmptyLine) {
   const ring_in_force ring(101, 2);
   const result found = syzygies_of(generators({polynomial(X())}), {});
   EXPECT_EQ(found.syzygies.count(), 0);
@@ -133,15 +128,12 @@ TEST(LinearSyzygies, OfNoPairsReportAnEmptyLine) {
   EXPECT_EQ(found.err, "\n");
 }
 
-TEST(LinearSyzygies, MarkWithDotsWhenQuietToo) {
+TEST(LinearSyzygies, AreMarkedForWhoeverListens) {
   const ring_in_force ring(101, 2);
-  const raised_dim raised;
   const form_vectors G = generators({sum_of({{1, X() * Y()}, {1, Z(2)}}), polynomial(Y(2))});
-  verbose = 0;
-  const result found = syzygies_of(G, pairs_of_generators(G));
-  verbose = 1;
-  EXPECT_EQ(found.out, ".");
-  EXPECT_EQ(found.err, "");
+  told inattentive(false);
+  linear_syzygies(G, pairs_of_generators(G), inattentive);
+  EXPECT_EQ(inattentive.out, ".");
 }
 
 }  // namespace

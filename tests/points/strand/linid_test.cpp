@@ -2,206 +2,213 @@
 
 #include <gtest/gtest.h>
 
-#include "points/ideal/minimal_generators.h"
-#include "points/strand/linom.h"
+#include <algorithm>
+
+#include "tests/arith/power_product.h"
 #include "tests/points/computing.h"
-#include "tests/points/shown.h"
-#include "tests/points/special_sets.h"
-#include "text/record.h"
+#include "tests/points/strand_sets.h"
 
 namespace zep::tests {
 namespace {
 
 const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
 
-const std::string table_of_triangle =
-    "    | 1   2   \n--------------\ndeg | 2   1   \nI_X | 3   2   \n" + line;
+const level_action nothing = [](int, const form_vectors&) {};
 
-// A set whose minimal generators exist, so that the strand alone is reported.
-scheme with_generators(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  min_Ix(X);
-  return X;
+struct strand {
+  std::vector<int> numbers;
+  std::string out;
+  std::string err;
+  // The lengths of the vectors of each level, how many there are, and how many are not zero.
+  std::vector<int> ranks;
+  std::vector<int> counts;
+  std::vector<int> nonzero;
+};
+
+strand strand_of(const ideal& generators, int alpha) {
+  told reporter;
+  strand found;
+  const auto act = [&](int level, const form_vectors& vectors) {
+    EXPECT_EQ(level, static_cast<int>(found.ranks.size()));
+    found.ranks.push_back(vectors.rank());
+    found.counts.push_back(vectors.count());
+    found.nonzero.push_back(vectors.no_of_nonzero());
+  };
+  found.numbers = linid(generators, alpha, reporter, act);
+  found.out = reporter.out;
+  found.err = reporter.err;
+  return found;
+}
+
+strand strand_of(const std::vector<coordinates>& points) {
+  const strand_starts start(points);
+  return strand_of(start.min_Ix, start.X.H.alpha);
 }
 
 TEST(Linid, OfATriangleHasThreeGeneratorsAndTwoSyzygies) {
   const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  const written t = by([&](std::ostream&) { linid(X); });
-  EXPECT_EQ(t.out, "");
-  EXPECT_EQ(t.err,
+  const strand found = strand_of(triangle);
+  EXPECT_EQ(found.out, "");
+  EXPECT_EQ(found.err,
             "I_X has 3 generators of degree 2\neliminating syzygies ...\n[2][1]\n"
             "2 syzygies in degree 1 found\n\n" +
                 line);
-  EXPECT_EQ(X.linres[0], (std::vector<int>{3, 2}));
-  EXPECT_EQ(X.linid, 1);
-  EXPECT_EQ(shown(disp_linid, X), table_of_triangle);
+  EXPECT_EQ(found.numbers, (std::vector<int>{3, 2}));
+  EXPECT_EQ(found.ranks, (std::vector<int>{1, 3}));
 }
 
 TEST(Linid, WithoutPairsHasNoSyzygies) {
   const ring_in_force ring(101, 2);
   // Two conics without a common component, up to multiples of Y^2 and X^2.
-  scheme X = with_generators({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
-  const written t = by([&](std::ostream&) { linid(X); });
-  EXPECT_EQ(t.err, "I_X has 2 generators of degree 2\n\n" + line);
-  EXPECT_EQ(X.linres[0], (std::vector<int>{2, 0}));
+  const strand found = strand_of({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
+  EXPECT_EQ(found.err, "I_X has 2 generators of degree 2\n\n" + line);
+  EXPECT_EQ(found.numbers, (std::vector<int>{2, 0}));
 }
 
 TEST(Linid, OfNoPointsHasNothing) {
   const ring_in_force ring(101, 2);
-  scheme X = with_generators({});
-  const written t = by([&](std::ostream&) { linid(X); });
-  EXPECT_EQ(t.err, "I_X has 0 generators of degree 0\n\n" + line);
-  EXPECT_EQ(X.linres[0], (std::vector<int>{0, 0}));
-  EXPECT_EQ(X.linid, 1);
+  const strand found = strand_of(std::vector<coordinates>{});
+  EXPECT_EQ(found.err, "I_X has 0 generators of degree 0\n\n" + line);
+  EXPECT_EQ(found.numbers, (std::vector<int>{0, 0}));
+  EXPECT_EQ(found.counts, std::vector<int>{0});
 }
 
-TEST(Linid, IsComputedOnce) {
+TEST(Linid, LeavesAMarkForWhatIsNoSyzygyWhoeverListens) {
   const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  by([&](std::ostream&) { linid(X); });
-  EXPECT_EQ(by([&](std::ostream&) { linid(X); }).err, "");
+  const strand_starts start({{1, 2}, {4, 7}, {5, 3}, {8, 9}});
+  told inattentive(false);
+  EXPECT_EQ(linid(start.min_Ix, start.X.H.alpha, inattentive, nothing), (std::vector<int>{2, 0}));
+  EXPECT_EQ(inattentive.out, ".");
 }
 
-TEST(Linid, MakesTheMinimalGeneratorsItNeeds) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  by([&](std::ostream&) { linid(X); });
-  EXPECT_TRUE(X.min_Ix.has_value());
-  EXPECT_EQ(X.linres[0], (std::vector<int>{3, 2}));
+TEST(Linid, HasVectorsAsLongAsTheLevelBeforeHadCandidates) {
+  const ring_in_force ring(101, 3);
+  const strand found = strand_of({{1, 2, 3},
+                                  {4, 5, 6},
+                                  {7, 8, 10},
+                                  {3, 1, 4},
+                                  {2, 7, 1},
+                                  {8, 2, 8},
+                                  {1, 8, 2},
+                                  {8, 4, 5},
+                                  {9, 0, 4},
+                                  {5, 2, 3}});
+  EXPECT_EQ(found.numbers, (std::vector<int>{10, 15, 6}));
+  // 18 pairs made 15 syzygies: the vectors of the next level have length 18.
+  EXPECT_NE(found.err.find("[18][17]"), std::string::npos);
+  ASSERT_GE(found.ranks.size(), 3U);
+  EXPECT_EQ(found.ranks[1], 10);
+  EXPECT_EQ(found.counts[1], 18);
+  EXPECT_EQ(found.nonzero[1], 15);
+  EXPECT_EQ(found.ranks[2], 18);
+  EXPECT_EQ(found.nonzero[2], 6);
 }
 
-TEST(Linid, LeavesTheDimensionAsItWas) {
+// Those of three points off a line, X^2 - XZ, Y^2 - YZ and XY, written down.
+ideal ideal_of_triangle() {
+  const monom x_2 = projective({2});
+  const monom y_2 = projective({0, 2});
+  const monom xy = projective({1, 1});
+  const monom xz = projective({1, 0, 1});
+  const monom yz = projective({0, 1, 1});
+  ideal I(3);
+  I.gen = {sum_of({{1, xy}}), sum_of({{1, y_2}, {100, yz}}), sum_of({{1, x_2}, {100, xz}})};
+  return I;
+}
+
+TEST(Linid, NeedsNothingButGenerators) {
   const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  by([&](std::ostream& out) { linsyz(out, X); });
+  const strand found = strand_of(ideal_of_triangle(), 2);
+  EXPECT_EQ(found.numbers, (std::vector<int>{3, 2}));
+  EXPECT_EQ(found.err, strand_of(triangle).err);
+}
+
+TEST(Linid, OfFourVariablesIsThatOfTheKoszulComplex) {
+  const ring_in_force ring(101, 3);
+  ideal I(3);
+  I.gen = {sum_of({{1, projective({0, 0, 1})}}), sum_of({{1, projective({0, 1})}}),
+           sum_of({{1, projective({1})}})};
+  EXPECT_EQ(strand_of(I, 1).numbers, (std::vector<int>{3, 3, 1}));
+}
+
+TEST(Linid, TakesTheGeneratorsOfLeastDegreeOnly) {
+  const ring_in_force ring(101, 2);
+  ideal I(2);
+  I.gen = {sum_of({{1, projective({1})}}), sum_of({{1, projective({0, 3})}})};
+  const strand found = strand_of(I, 1);
+  EXPECT_EQ(found.numbers, (std::vector<int>{1, 0}));
+  EXPECT_TRUE(found.err.starts_with("I_X has 1 generators of degree 1\n"));
+}
+
+TEST(Linid, LeavesTheRingAsItWas) {
+  const ring_in_force ring(101, 2);
+  const arith::ring before = current_ring();
+  strand_of(triangle);
+  EXPECT_EQ(current_ring(), before);
   EXPECT_EQ(dim, 2);
 }
 
-TEST(Linsyz, PrintsTheSyzygiesEachTimeAndMarksNothing) {
+TEST(Linid, IsComputedOnceForASet) {
   const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  // The generators are XY, Y^2 - YZ, X^2 - XZ.
-  const std::string syzygies = "[ - Y + Z;\nX;\n 0 ]\n[ X - Z;\n 0;\n- Y ]\n";
+  told_set set(triangle);
+  set.X.linid();
+  EXPECT_NE(set.reporter.err.find("I_X has 3 generators"), std::string::npos);
+  set.reporter.forget();
+  set.X.linid();
+  EXPECT_EQ(set.reporter.out + set.reporter.err, "");
+  EXPECT_TRUE(set.X.known().strands.linid);
+  EXPECT_EQ(set.X.known().strands.linres[0], (std::vector<int>{3, 2}));
+}
+
+TEST(Linid, OfASetMakesTheMinimalGeneratorsItNeeds) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set(triangle);
+  X.linid();
+  EXPECT_NE(X.known().min_Ix, nullptr);
+  EXPECT_EQ(X.known().strands.linres[0], (std::vector<int>{3, 2}));
+}
+
+TEST(Linid, OfNoPointsCountsAsComputed) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set({});
+  X.linid();
+  EXPECT_TRUE(X.known().strands.linid);
+}
+
+TEST(Linid, IsFollowedAnewAndNeedNotCount) {
+  const ring_in_force ring(101, 2);
+  told_set set(triangle);
+  set.X.min_Ix();
+  const strand_numbers& strands = set.X.known().strands;
   for (int round = 0; round < 2; ++round) {
-    const written t = by([&](std::ostream& out) { linsyz(out, X); });
-    EXPECT_TRUE(t.err.starts_with("I_X has 3 generators"));
-    EXPECT_EQ(t.given, syzygies);
-    EXPECT_EQ(X.linid, 0);
-    EXPECT_EQ(X.linres[0], (std::vector<int>{3, 2}));
+    set.reporter.forget();
+    set.X.linid(nothing, scheme::numbers::stay);
+    EXPECT_TRUE(set.reporter.err.starts_with("I_X has 3 generators"));
+    EXPECT_FALSE(strands.linid);
+    EXPECT_EQ(strands.linres[0], (std::vector<int>{3, 2}));
+  }
+  for (int round = 0; round < 2; ++round) {
+    set.reporter.forget();
+    set.X.linid(nothing, scheme::numbers::count);
+    EXPECT_TRUE(set.reporter.err.starts_with("I_X has 3 generators"));
+    EXPECT_TRUE(strands.linid);
   }
 }
 
-TEST(Linsyz, PrintsTheSyzygiesOfALevelBehindTheirNumber) {
+TEST(Linid, FollowedAnewLeavesItsMark) {
   const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  EXPECT_EQ(on_screen([&](std::ostream& out) { linsyz(out, X); }),
-            "I_X has 3 generators of degree 2\neliminating syzygies ...\n[2][1]\n"
-            "2 syzygies in degree 1 found\n[ - Y + Z;\nX;\n 0 ]\n[ X - Z;\n 0;\n- Y ]\n\n" +
-                line);
-}
-
-TEST(Linsyz, LeavesTheMarkOfLinid) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  by([&](std::ostream&) { linid(X); });
-  by([&](std::ostream& out) { linsyz(out, X); });
-  EXPECT_EQ(X.linid, 1);
-  by([&](std::ostream& out) { putlinsyz(out, X); });
-  EXPECT_EQ(X.linid, 1);
-}
-
-const std::vector<coordinates> ten_points = {{1, 2, 3}, {4, 5, 6}, {7, 8, 10}, {3, 1, 4},
-                                             {2, 7, 1}, {8, 2, 8}, {1, 8, 2},  {8, 4, 5},
-                                             {9, 0, 4}, {5, 2, 3}};
-
-TEST(Linid, LeavesADotForWhatIsNoSyzygyEvenWhenQuiet) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_generators({{1, 2}, {4, 7}, {5, 3}, {8, 9}});
-  verbose = 0;
-  const written t = by([&](std::ostream&) { linid(X); });
-  verbose = 1;
-  EXPECT_EQ(t.out, ".");
-  EXPECT_EQ(t.err, "");
-  EXPECT_EQ(X.linres[0], (std::vector<int>{2, 0}));
-}
-
-TEST(Putlinid, WritesGeneratorsAndSyzygiesUnderHeadingsAndMarksThem) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  for (int round = 0; round < 2; ++round) {
-    const written t = by([&](std::ostream& out) { putlinid(out, X); });
-    EXPECT_TRUE(
-        t.given.starts_with("\n1. matrix of linear resolution of I_X : \n1\n3\nXY\nY2-YZ\nX2-XZ\n"
-                            "\n2. matrix of linear resolution of I_X : \n3\n2\n"));
-    EXPECT_EQ(std::count(t.given.begin(), t.given.end(), '\n'), 17);
-    EXPECT_TRUE(t.err.starts_with("I_X has 3 generators"));
-    EXPECT_EQ(X.linid, 1);
-  }
-}
-
-TEST(Putlinsyz, WritesTheSyzygiesWithoutHeadingsAndMarksNothing) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  const written t = by([&](std::ostream& out) { putlinsyz(out, X); });
-  EXPECT_TRUE(t.given.starts_with("3\n2\n"));
-  EXPECT_EQ(std::count(t.given.begin(), t.given.end(), '\n'), 8);
-  EXPECT_EQ(X.linid, 0);
-}
-
-TEST(Putlinsyz, CountsVectorsThatWereDroppedInTheirLengths) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_generators({{5, 7}});
-  const written one = by([&](std::ostream& out) { putlinsyz(out, X); });
-  EXPECT_TRUE(one.given.starts_with("2\n1\n"));
-  const ring_in_force space(101, 3);
-  scheme Y = with_generators(ten_points);
-  const written ten = by([&](std::ostream& out) { putlinsyz(out, Y); });
-  EXPECT_EQ(Y.linres[0], (std::vector<int>{10, 15, 6}));
-  EXPECT_TRUE(ten.given.starts_with("10\n15\n"));
-  // 18 pairs made 15 syzygies: the vectors of the next level have length 18.
-  EXPECT_NE(ten.err.find("[18][17]"), std::string::npos);
-  EXPECT_NE(ten.given.find("\n18\n6\n"), std::string::npos);
-}
-
-TEST(DispLinid, ShowsZerosBeforeAnythingIsComputed) {
-  const ring_in_force ring(101, 3);
-  EXPECT_EQ(
-      shown(disp_linid, {{1, 2, 3}}),
-      "    | 1   2   3   \n------------------\ndeg | 0   -1  -2  \nI_X | 0   0   0   \n" + line);
-}
-
-TEST(DispLinid, HasColumnsAsWideAsTheirEntries) {
-  EXPECT_EQ(shown_table(disp_linid, {.alpha = 2, .of_I_X = {7, 1000, 12345}}),
-            "    | 1   2    3     \n---------------------\ndeg | 2   1    0     \n"
-            "I_X | 7   1000 12345 \n" +
-                line);
-}
-
-TEST(DispLinid, IsPartOfTheDisplayOnceTheNumbersAreThere) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_generators(triangle);
-  const auto record = [&] {
-    const silence quiet;
-    std::ostringstream out;
-    out << X;
-    return out.str();
-  };
-  EXPECT_EQ(record().find("I_X | "), std::string::npos);
-  by([&](std::ostream&) { linid(X); });
-  EXPECT_TRUE(record().ends_with(table_of_triangle));
-  by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(record().find(table_of_triangle), std::string::npos);
-  EXPECT_TRUE(record().ends_with(shown(disp_linres, X)));
+  scheme X = make_set(triangle);
+  X.linid();
+  X.linid(nothing, scheme::numbers::stay);
+  EXPECT_TRUE(X.known().strands.linid);
 }
 
 TEST(Linid, OfMeaninglessPointsBreaksNothing) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
     scheme X = make_set(points);
-    by([&](std::ostream& out) { linsyz(out, X); });
-    by([&](std::ostream& out) { putlinid(out, X); });
-    EXPECT_EQ(X.linid, 1);
+    X.linid(nothing, scheme::numbers::stay);
+    X.linid(nothing, scheme::numbers::count);
+    EXPECT_TRUE(X.known().strands.linid);
   });
 }
 

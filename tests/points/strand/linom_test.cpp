@@ -2,12 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "points/module/canonical_module.h"
-#include "points/strand/linid.h"
+#include <algorithm>
+
+#include "tests/arith/power_product.h"
+#include "tests/points/computed_presentation.h"
 #include "tests/points/computing.h"
-#include "tests/points/shown.h"
-#include "tests/points/special_sets.h"
-#include "text/record.h"
 
 namespace zep::tests {
 namespace {
@@ -17,223 +16,238 @@ const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
 const std::vector<coordinates> three_collinear_points_and_two = {
     {0, 0, 0}, {0, 0, 1}, {0, 0, 2}, {0, 1, 0}, {1, 0, 0}};
 
-const std::string table_of_triangle =
-    "    | 1   2   \n--------------\ndeg | 0   -1  \nw_R | 2   3   \n" + line;
+const level_visitor to_the_end = [](int, const form_vectors&) { return true; };
+const level_visitor relations_only = [](int, const form_vectors&) { return false; };
 
-// A set whose canonical module has been presented, so that the strand alone is reported.
-scheme with_presentation(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  omega(X);
-  return X;
+struct strand {
+  std::vector<int> numbers;
+  std::string out;
+  std::string err;
+  // How many vectors each level has, from level 1 on.
+  std::vector<int> counts;
+};
+
+strand strand_of(const presentation& w_R, const level_visitor& visit = to_the_end) {
+  told reporter;
+  strand found;
+  const auto count_and_visit = [&](int level, const form_vectors& vectors) {
+    found.counts.push_back(vectors.count());
+    EXPECT_EQ(level, static_cast<int>(found.counts.size()));
+    return visit(level, vectors);
+  };
+  found.numbers = linom(w_R, reporter, count_and_visit);
+  found.out = reporter.out;
+  found.err = reporter.err;
+  return found;
 }
 
 TEST(Linom, OfATriangleHasTwoGeneratorsAndThreeRelations) {
   const ring_in_force ring(101, 2);
-  scheme X = with_presentation(triangle);
-  const written t = by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(t.out, ".");
-  EXPECT_EQ(t.err,
+  const strand found = strand_of(computed(triangle));
+  EXPECT_EQ(found.out, ".");
+  EXPECT_EQ(found.err,
             "w_R has 2 generators in degree 0\n3 syzygies in degree -1 found\n"
             "eliminating syzygies ...\n[1]\n" +
                 line);
-  EXPECT_EQ(X.linres[1], (std::vector<int>{3, 2}));
-  EXPECT_EQ(X.linom, 1);
-  EXPECT_EQ(shown(disp_linom, X), table_of_triangle);
+  EXPECT_EQ(found.numbers, (std::vector<int>{3, 2}));
+  EXPECT_EQ(found.counts, std::vector<int>{3});
 }
 
 TEST(Linom, WithoutLinearRelationsHasItsGeneratorsAlone) {
   const ring_in_force ring;
-  scheme X = with_presentation(points_of_frame());
-  const written t = by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(t.err, "w_R has 1 generators in degree -1\n0 syzygies in degree -2 found\n\n" + line);
-  EXPECT_EQ(X.linres[1], (std::vector<int>{0, 0, 1}));
+  const strand found = strand_of(computed(points_of_frame()));
+  EXPECT_EQ(found.err,
+            "w_R has 1 generators in degree -1\n0 syzygies in degree -2 found\n\n" + line);
+  EXPECT_EQ(found.numbers, (std::vector<int>{0, 0, 1}));
+  EXPECT_EQ(found.counts, std::vector<int>{0});
 }
 
 TEST(Linom, CountsTheGeneratorsOfLeastDegreeOnly) {
   const ring_in_force ring(101, 3);
   // Generators to Y, X and Z^2.
-  scheme X = with_presentation(three_collinear_points_and_two);
-  ASSERT_EQ(no_of_pr(X), 3);
-  by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(X.linres[1], (std::vector<int>{1, 2, 1}));
+  const presentation w_R = computed(three_collinear_points_and_two);
+  ASSERT_EQ(w_R.no_of_pr(), 3);
+  EXPECT_EQ(strand_of(w_R).numbers, (std::vector<int>{1, 2, 1}));
 }
 
-// A level behind the last place of the table is reported all the same.
+// A level behind the last place of the table is told all the same.
 TEST(Linom, OfOnePointGoesBeyondTheTable) {
   const ring_in_force ring(101, 2);
-  scheme X = with_presentation({{5, 7}});
-  const written t = by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(t.err,
+  const strand found = strand_of(computed({{5, 7}}));
+  EXPECT_EQ(found.err,
             "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n"
             "eliminating syzygies ...\n[1]\n1 syzygies in degree -1 found\n\n" +
                 line);
-  EXPECT_EQ(X.linres[1], (std::vector<int>{2, 1}));
-  const written file = by([&](std::ostream& out) { putlinom(out, X); });
-  EXPECT_EQ(file.given,
-            "\n1. matrix of linear resolution of w_R : \n1\n2\nX-5Z\nY-7Z\n"
-            "\n2. matrix of linear resolution of w_R : \n2\n1\n-Y+7Z\nX-5Z\n");
+  EXPECT_EQ(found.numbers, (std::vector<int>{2, 1}));
+  EXPECT_EQ(found.counts, (std::vector<int>{2, 1}));
 }
 
 TEST(Linom, OfNoPointsHasNothing) {
   const ring_in_force ring(101, 2);
-  scheme X = with_presentation({});
-  const written t = by([&](std::ostream&) { linom(X); });
-  EXPECT_TRUE(t.err.ends_with(
-      "w_R has 0 generators in degree 0\n0 syzygies in degree -1 found\n\n" + line));
-  EXPECT_EQ(X.linres[1], (std::vector<int>{0, 0}));
-  EXPECT_EQ(X.linom, 1);
+  for (const presentation& none : {computed({}), presentation()}) {
+    const strand found = strand_of(none);
+    EXPECT_EQ(found.err,
+              "w_R has 0 generators in degree 0\n0 syzygies in degree -1 found\n\n" + line);
+    EXPECT_EQ(found.numbers, (std::vector<int>{0, 0}));
+  }
 }
 
-TEST(Linom, IsComputedOnce) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_presentation(triangle);
-  by([&](std::ostream&) { linom(X); });
-  const written again = by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(again.out + again.err, "");
+// That of three points off a line, with the projections to Y and X as generators, written down:
+//
+//     X   0    Y - Z
+//     0   Y    Z - X
+presentation presentation_of_triangle() {
+  const monom x = projective_variable(0);
+  const monom y = projective_variable(1);
+  const monom z = projective_variable(2);
+  const polynomial zero(0);
+  return {{1, 2},
+          {variable(1), variable(0)},
+          0,
+          {polynomial(x), zero, sum_of({{1, y}, {100, z}}),  //
+           zero, polynomial(y), sum_of({{100, x}, {1, z}})},
+          {0, 3}};
 }
 
-TEST(Linom, MakesThePresentationItNeeds) {
+TEST(Linom, NeedsNothingButAPresentation) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  by([&](std::ostream&) { linom(X); });
-  EXPECT_EQ(no_of_pr(X), 2);
-  EXPECT_EQ(X.linres[1], (std::vector<int>{3, 2}));
+  const strand found = strand_of(presentation_of_triangle());
+  EXPECT_EQ(found.numbers, (std::vector<int>{3, 2}));
+  EXPECT_EQ(found.out, ".");
+  EXPECT_EQ(found.err, strand_of(computed(triangle)).err);
 }
 
-TEST(Linom, LeavesTheDimensionAsItWas) {
+// One generator, that of degree 2, with the linear relations X, Y and a quadric; the relations that
+// are linear at the other generator do not count.
+TEST(Linom, LooksAtTheGeneratorsOfLeastDegreeAndTheirLinearRelations) {
   const ring_in_force ring(101, 2);
-  scheme X = with_presentation(triangle);
-  by([&](std::ostream&) { linom(X); });
+  const polynomial x(projective_variable(0));
+  const polynomial y(projective_variable(1));
+  const polynomial z(projective_variable(2));
+  const polynomial zero(0);
+  const polynomial square(projective({0, 0, 2}));
+  const presentation w_R({0, 3}, {variable(1), projective({2})}, 1,
+                         {zero, zero, y, z, x, y, square, zero}, {0, 2, 2});
+  const strand found = strand_of(w_R);
+  EXPECT_EQ(found.numbers, (std::vector<int>{2, 1}));
+  EXPECT_TRUE(
+      found.err.starts_with("w_R has 1 generators in degree -1\n2 syzygies in degree -2 found\n"
+                            "eliminating syzygies ...\n[1]\n1 syzygies in degree -3 found\n"))
+      << found.err;
+}
+
+TEST(Linom, GoesNoFurtherThanTheVisitorWants) {
+  const ring_in_force ring(101, 2);
+  const strand found = strand_of(computed({{5, 7}}), relations_only);
+  EXPECT_EQ(found.out, "");
+  EXPECT_EQ(found.err, "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n" + line);
+  EXPECT_EQ(found.numbers, (std::vector<int>{2, 1}));
+  EXPECT_EQ(found.counts, std::vector<int>{2});
+}
+
+TEST(Linom, LeavesTheRingAsItWas) {
+  const ring_in_force ring(101, 2);
+  const arith::ring before = current_ring();
+  strand_of(computed(triangle));
+  EXPECT_EQ(current_ring(), before);
   EXPECT_EQ(dim, 2);
 }
 
-TEST(Putlinom, WritesRelationsUnderHeadingsEachTimeAndMarksThem) {
+TEST(Linom, IsComputedOnceForASet) {
   const ring_in_force ring(101, 2);
-  scheme X = with_presentation(triangle);
+  told_set set(triangle);
+  set.X.linom();
+  EXPECT_TRUE(set.X.known().strands.linom);
+  EXPECT_EQ(set.X.known().strands.linres[1], (std::vector<int>{3, 2}));
+  set.reporter.forget();
+  set.X.linom();
+  EXPECT_EQ(set.reporter.out + set.reporter.err, "");
+}
+
+TEST(Linom, OfASetMakesThePresentationItNeeds) {
+  const ring_in_force ring(101, 2);
+  scheme X = make_set(triangle);
+  X.linom();
+  ASSERT_NE(X.known().omega, nullptr);
+  EXPECT_EQ(X.known().omega->no_of_pr(), 2);
+  EXPECT_EQ(X.known().strands.linres[1], (std::vector<int>{3, 2}));
+}
+
+TEST(Linom, OfNoPointsCountsAsComputed) {
+  const ring_in_force ring(101, 2);
+  told_set set({});
+  set.X.linom();
+  EXPECT_TRUE(set.X.known().strands.linom);
+  EXPECT_EQ(set.X.known().strands.linres[1], (std::vector<int>{0, 0}));
+  EXPECT_TRUE(set.reporter.err.ends_with(
+      "w_R has 0 generators in degree 0\n0 syzygies in degree -1 found\n\n" + line));
+}
+
+TEST(Linom, IsFollowedAnewAndNeedNotCount) {
+  const ring_in_force ring(101, 2);
+  told_set set({{5, 7}});
+  set.X.omega();
+  const strand_numbers& strands = set.X.known().strands;
+  set.reporter.forget();
+  set.X.linom(relations_only, scheme::numbers::stay);
+  EXPECT_EQ(set.reporter.err,
+            "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n" + line);
+  EXPECT_FALSE(strands.linom);
+  EXPECT_EQ(strands.linres[1], (std::vector<int>{2, 1}));
   for (int round = 0; round < 2; ++round) {
-    const written t = by([&](std::ostream& out) { putlinom(out, X); });
-    EXPECT_TRUE(t.given.starts_with("\n1. matrix of linear resolution of w_R : \n2\n3\n"));
-    EXPECT_EQ(std::count(t.given.begin(), t.given.end(), '\n'), 10);
-    EXPECT_EQ(t.out, ".");
-    EXPECT_EQ(X.linom, 1);
+    set.reporter.forget();
+    set.X.linom(to_the_end, scheme::numbers::count);
+    EXPECT_TRUE(set.reporter.err.starts_with("w_R has 1 generators"));
+    EXPECT_TRUE(strands.linom);
   }
 }
 
-TEST(Linomsyz, PrintsTheLinearRelationsAndStopsThere) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_presentation({{5, 7}});
-  const written t = by([&](std::ostream& out) { linomsyz(out, X); });
-  EXPECT_EQ(t.given, "[ X - 5Z ]\n[ Y - 7Z ]\n");
-  EXPECT_EQ(t.out, "");
-  EXPECT_EQ(t.err, "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n" + line);
-  EXPECT_EQ(X.linom, 0);
-  EXPECT_EQ(X.linres[1], (std::vector<int>{2, 1}));
-}
-
-TEST(Putlinomsyz, WritesTheLinearRelationsAndMarksNothing) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_presentation({{5, 7}});
-  const written t = by([&](std::ostream& out) { putlinomsyz(out, X); });
-  EXPECT_EQ(t.given, "1\n2\nX-5Z\nY-7Z\n");
-  EXPECT_EQ(X.linom, 0);
-}
-
-TEST(Linomsyz, PrintsTheRelationsBehindTheirNumber) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_presentation({{5, 7}});
-  EXPECT_EQ(on_screen([&](std::ostream& out) { linomsyz(out, X); }),
-            "w_R has 1 generators in degree 1\n2 syzygies in degree 0 found\n"
-            "[ X - 5Z ]\n[ Y - 7Z ]\n" +
-                line);
-}
-
-TEST(Linomsyz, EndsTheNumbersOfLinomAtTheLinearRelations) {
+TEST(Linom, FollowedUpToTheRelationsEndsTheNumbersThere) {
   const ring_in_force ring(101, 3);
-  for (const auto relations : {linomsyz, putlinomsyz}) {
-    scheme X = with_presentation(three_collinear_points_and_two);
-    by([&](std::ostream&) { linom(X); });
-    by([&](std::ostream& out) { relations(out, X); });
-    EXPECT_EQ(X.linres[1], (std::vector<int>{0, 2, 1}));
-    EXPECT_EQ(X.linom, 1);
-  }
-}
-
-TEST(Linomsyz, ShowsNothingWhereThereIsNoLinearRelation) {
-  const ring_in_force ring;
-  scheme X = with_presentation(points_of_frame());
-  EXPECT_EQ(by([&](std::ostream& out) { linomsyz(out, X); }).given, "");
-  EXPECT_EQ(by([&](std::ostream& out) { putlinomsyz(out, X); }).given, "");
-  EXPECT_EQ(by([&](std::ostream& out) { putlinom(out, X); }).given, "");
+  scheme X = make_set(three_collinear_points_and_two);
+  X.linom();
+  EXPECT_EQ(X.known().strands.linres[1], (std::vector<int>{1, 2, 1}));
+  X.linom(relations_only, scheme::numbers::stay);
+  EXPECT_EQ(X.known().strands.linres[1], (std::vector<int>{0, 2, 1}));
+  EXPECT_TRUE(X.known().strands.linom);
 }
 
 // What is done for one strand leaves the numbers and the mark of the other.
 TEST(LinearStrands, AreComputedApart) {
   const ring_in_force ring(101, 3);
-  scheme X = with_presentation(three_collinear_points_and_two);
-  by([&](std::ostream&) {
-    linid(X);
-    linom(X);
-  });
-  const auto both = X.linres;
-  for (const auto write : {linsyz, putlinsyz, putlinid, putlinom}) {
-    by([&](std::ostream& out) { write(out, X); });
-    EXPECT_EQ(X.linres, both);
-    EXPECT_EQ(X.linid, 1);
-    EXPECT_EQ(X.linom, 1);
+  scheme X = make_set(three_collinear_points_and_two);
+  const level_action nothing = [](int, const form_vectors&) {};
+  X.linid();
+  X.linom();
+  const strand_numbers& strands = X.known().strands;
+  const auto both = strands.linres;
+  for (const auto counts : {scheme::numbers::stay, scheme::numbers::count}) {
+    X.linid(nothing, counts);
+    X.linom(to_the_end, counts);
+    EXPECT_EQ(strands.linres, both);
+    EXPECT_TRUE(strands.linid);
+    EXPECT_TRUE(strands.linom);
   }
-  for (const auto write : {linomsyz, putlinomsyz}) {
-    by([&](std::ostream& out) { write(out, X); });
-    EXPECT_EQ(X.linres[0], both[0]);
-    EXPECT_EQ(X.linid, 1);
-  }
-}
+  X.linom(relations_only, scheme::numbers::stay);
+  EXPECT_EQ(strands.linres[0], both[0]);
+  EXPECT_TRUE(strands.linid);
 
-TEST(DispLinom, PadsAnEntryToTheWidthOfTheColumnWithItsIndex) {
-  // The columns are 5, 3 and 3 wide; the entries are padded to 3, 3 and 5.
-  EXPECT_EQ(shown_table(disp_linom, {.sigma = 3, .of_w_R = {7, 60, 12345}}),
-            "    | 1     2   3   \n--------------------\ndeg | -3    -4  -5  \n"
-            "w_R | 1234560  7     \n" +
-                line);
-}
-
-TEST(DispLinom, HasNoWiderColumnsForItsDegrees) {
-  EXPECT_EQ(shown_table(disp_linom, {.sigma = 99, .of_w_R = {1, 2, 3}}),
-            "    | 1   2   3   \n------------------\ndeg | -99 -100-101\n"
-            "w_R | 3   2   1   \n" +
-                line);
-}
-
-TEST(DispLinres, HasNoWiderColumnsForItsDegrees) {
-  EXPECT_EQ(
-      shown_table(disp_linres, {.alpha = 1, .sigma = 98, .of_I_X = {2, 1, 0}, .of_w_R = {1, 2, 1}}),
-      "    | 1   2   3   \n------------------\ndeg | 1   0   -1  \nI_X | 2   1   0   \n"
-      "------------------\nw_R | 1   2   1   \ndeg | -100-99 -98 \n" +
-          line);
-}
-
-TEST(DispLinres, ShowsBothStrandsWithWidthsForBoth) {
-  EXPECT_EQ(shown_table(disp_linres,
-                        {.alpha = 2, .sigma = 1, .of_I_X = {1, 1000, 3}, .of_w_R = {12345, 6, 7}}),
-            "    | 1     2    3   \n---------------------\ndeg | 2     1    0   \n"
-            "I_X | 1     1000 3   \n---------------------\nw_R | 12345 6    7   \n"
-            "deg | -3    -2   -1  \n" +
-                line);
-}
-
-TEST(DispLinom, IsPartOfTheDisplayWhenTheOtherStrandIsNotThere) {
-  const ring_in_force ring(101, 2);
-  scheme X = with_presentation(triangle);
-  by([&](std::ostream&) { linom(X); });
-  EXPECT_TRUE(by([&](std::ostream& out) { out << X; }).given.ends_with(table_of_triangle));
+  scheme Y = make_set(three_collinear_points_and_two);
+  Y.linid();
+  EXPECT_FALSE(Y.known().strands.linom);
+  EXPECT_EQ(Y.known().strands.linres[1], std::vector<int>(3));
+  scheme Z = make_set(three_collinear_points_and_two);
+  Z.linom();
+  EXPECT_FALSE(Z.known().strands.linid);
+  EXPECT_EQ(Z.known().strands.linres[0], std::vector<int>(3));
 }
 
 TEST(Linom, OfMeaninglessPointsBreaksNothing) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
     scheme X = make_set(points);
-    by([&](std::ostream& out) { linomsyz(out, X); });
-    by([&](std::ostream& out) { putlinom(out, X); });
-    EXPECT_EQ(X.linom, 1);
+    X.linom(relations_only, scheme::numbers::stay);
+    X.linom(to_the_end, scheme::numbers::count);
+    EXPECT_TRUE(X.known().strands.linom);
   });
 }
 

@@ -2,29 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include "points/walk/separators.h"
 #include "tests/points/plain_artinian.h"
 #include "tests/points/point_sets.h"
-#include "tests/points/shown.h"
 #include "tests/points/special_sets.h"
 
 namespace zep::tests {
 namespace {
 
-const std::string heading = "the beta_matrix with respect to the following separators :\n";
-
 using rows = std::vector<std::vector<int>>;
 
-scheme computed(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  beta_matrix(X);
-  return X;
+leading_forms computed(const std::vector<coordinates>& points) {
+  return beta_matrix(walked(points), nobody());
 }
 
-std::vector<int> beta_row(const scheme& X, int i) {
+std::vector<int> beta_row(const leading_forms& forms, int i) {
   std::vector<int> values;
-  for (const Fp8 x : X.beta_matrix->row(i)) values.push_back(x.value());
+  for (const Fp8 x : forms.beta[i]) values.push_back(x.value());
   return values;
 }
 
@@ -103,26 +96,25 @@ std::vector<int> plain_basis(const rows& forms) {
 
 TEST(BetaMatrix, OfOnePointIsOne) {
   const ring_in_force ring(101, 2);
-  EXPECT_EQ(shown(disp_beta_matrix, {{5, 6}}), heading + "f1, \n[ 1 ]\n" + line);
+  const leading_forms forms = computed({{5, 6}});
+  EXPECT_EQ(forms.basis, std::vector<int>{0});
+  EXPECT_EQ(beta_row(forms, 0), std::vector<int>{1});
 }
 
 TEST(BetaMatrix, OfTheTriangleNamesTwoPointsAndCombinesTheThird) {
   const ring_in_force ring(101, 2);
   // The leading forms are -X - Y, X and Y.
-  const std::string rows_of_matrix =
-      "[  1   0 ]\n"
-      "[        ]\n"
-      "[  0   1 ]\n"
-      "[        ]\n"
-      "[ -1  -1 ]\n";
-  EXPECT_EQ(shown(disp_beta_matrix, {{0, 0}, {1, 0}, {0, 1}}),
-            heading + "f1, f2, \n" + rows_of_matrix + line);
+  const leading_forms forms = computed({{0, 0}, {1, 0}, {0, 1}});
+  EXPECT_EQ(forms.basis, (std::vector<int>{0, 1}));
+  EXPECT_EQ(beta_row(forms, 0), (std::vector<int>{1, 0}));
+  EXPECT_EQ(beta_row(forms, 1), (std::vector<int>{0, 1}));
+  EXPECT_EQ(beta_row(forms, 2), (std::vector<int>{100, 100}));
 }
 
 TEST(BetaMatrix, KeepsZeroRowsForPointsWithSeparatorsOfSmallerDegree) {
   const ring_in_force ring(101, 2);
   // Three points on a line and one off it, whose separator is the equation of the line.
-  const scheme X = computed({{0, 0}, {0, 1}, {1, 0}, {2, 0}});
+  const leading_forms X = computed({{0, 0}, {0, 1}, {1, 0}, {2, 0}});
   EXPECT_EQ(beta_row(X, 1), std::vector<int>{0});
   EXPECT_EQ(X.basis, std::vector<int>{0});
   EXPECT_EQ(beta_row(X, 0), std::vector<int>{1});
@@ -130,94 +122,40 @@ TEST(BetaMatrix, KeepsZeroRowsForPointsWithSeparatorsOfSmallerDegree) {
   EXPECT_EQ(beta_row(X, 3), std::vector<int>{1});
 }
 
-TEST(BetaMatrix, OfNoPointsIsAHeadingWithoutAMatrix) {
+TEST(BetaMatrix, OfNoPointsIsEmpty) {
   const ring_in_force ring(101, 2);
-  EXPECT_EQ(shown(disp_beta_matrix, std::vector<coordinates>()), heading + "\n" + line);
+  const leading_forms forms = computed({});
+  EXPECT_EQ(forms.beta, matrix(0, 0));
+  EXPECT_TRUE(forms.basis.empty());
 }
 
-TEST(BetaMatrix, NamesItsBasisOnOneLineHoweverLong) {
-  const ring_in_force ring(101, 7);
-  std::mt19937 random(8);
-  scheme X = make_set(random_points(36, random));
-  const std::string text = shown(disp_beta_matrix, X);
-  ASSERT_EQ(X.delta, 28);
-  std::string names;
-  for (const int i : X.basis) names += "f" + std::to_string(i + 1) + ", ";
-  EXPECT_TRUE(text.starts_with(heading + names + "\n[ "));
-}
-
-TEST(BetaMatrix, CountsDownTheMembersOfTopDegreeOnStandardError) {
+TEST(BetaMatrix, TellsACountdownOfTheMembersOfTopDegree) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
-  {
-    const silence quiet;
-    need_sep(X);
-  }
-  const silence loud;
-  beta_matrix(X);
-  EXPECT_EQ(loud.err.text(), "calculating beta matrix ...\n[2][1]\n");
-  EXPECT_EQ(loud.out.text(), "");
-}
-
-TEST(BetaMatrix, ReportsWhatItNeedsBeforeItBegins) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
-  const silence loud;
-  beta_matrix(X);
-  EXPECT_EQ(loud.err.text(),
-            "calculating triangular sequence ...\n[3][2][1]\n"
-            "calculating biorthogonal sequence ...\n[3][2][1]\n"
-            "calculating beta matrix ...\n[2][1]\n");
-}
-
-TEST(BetaMatrix, LeavesStandardErrorAloneWhenQuiet) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
-  const silence loud;
-  verbose = 0;
-  beta_matrix(X);
-  verbose = 1;
-  EXPECT_EQ(loud.err.text(), "");
-  EXPECT_EQ(loud.out.text(), line + line);
-}
-
-TEST(BetaMatrix, IsMadeOnce) {
-  const ring_in_force ring(101, 2);
-  scheme X = computed({{0, 0}, {1, 0}, {0, 1}});
-  X.beta_matrix = matrix(2, 1);
-  X.basis = {6};
-  const silence loud;
-  std::ostringstream out;
-  disp_beta_matrix(out, X);
-  EXPECT_EQ(out.str(), heading + "f7, \n[ 0  0 ]\n" + line);
-  EXPECT_EQ(loud.err.text() + loud.out.text(), "");
-}
-
-TEST(BetaMatrix, MakesTheSeparators) {
-  const ring_in_force ring(101, 2);
-  const scheme X = computed({{0, 0}, {1, 0}});
-  EXPECT_EQ(X.sep, 1);
+  told reporter;
+  beta_matrix(walked({{0, 0}, {1, 0}, {0, 1}}), reporter);
+  EXPECT_EQ(reporter.err, "calculating beta matrix ...\n[2][1]\n");
+  EXPECT_EQ(reporter.out, "");
 }
 
 TEST(BetaMatrix, OfMeaninglessPointsHasItsShapeAllTheSame) {
   for_each_meaningless_set([](const std::vector<coordinates>& points) {
-    scheme X = make_set(points);
-    EXPECT_TRUE(shown(disp_beta_matrix, X).starts_with(heading));
-    EXPECT_EQ(X.beta_matrix->rows(), X.s);
-    EXPECT_EQ(X.beta_matrix->cols(), X.delta);
-    EXPECT_EQ(static_cast<int>(X.basis.size()), X.delta);
+    const points::order_ideal X = walked(points);
+    const leading_forms forms = beta_matrix(X, nobody());
+    EXPECT_EQ(forms.beta.rows(), X.s());
+    EXPECT_EQ(forms.beta.cols(), X.H.delta);
+    EXPECT_EQ(static_cast<int>(forms.basis.size()), X.H.delta);
   });
 }
 
 TEST(BetaMatrixProperty, CombinesTheLeadingFormsOfAllSeparators) {
   int zero_rows = 0;
   for_each_set([&](const std::vector<coordinates>& points) {
-    const scheme X = computed(points);
+    const leading_forms X = computed(points);
     const rows forms = plain_leading_forms(points);
-    ASSERT_EQ(X.beta_matrix->rows(), X.s);
-    ASSERT_EQ(static_cast<std::size_t>(X.beta_matrix->cols()), forms[0].size());
+    ASSERT_EQ(X.beta.rows(), std::ssize(points));
+    ASSERT_EQ(static_cast<std::size_t>(X.beta.cols()), forms[0].size());
     ASSERT_EQ(X.basis.size(), forms[0].size());
-    for (int i = 0; i < X.s; ++i) {
+    for (int i = 0; i < X.beta.rows(); ++i) {
       ASSERT_EQ(combined(beta_row(X, i), forms, X.basis), forms[i]);
       ASSERT_EQ(is_zero(beta_row(X, i)), is_zero(forms[i]));
       zero_rows += is_zero(forms[i]) ? 1 : 0;
@@ -228,7 +166,7 @@ TEST(BetaMatrixProperty, CombinesTheLeadingFormsOfAllSeparators) {
 
 TEST(BetaMatrixProperty, TakesTheFirstPointThatServesForEveryMonomial) {
   for_each_set([](const std::vector<coordinates>& points) {
-    const scheme X = computed(points);
+    const leading_forms X = computed(points);
     ASSERT_EQ(X.basis, plain_basis(plain_leading_forms(points)));
     for (std::size_t l = 0; l < X.basis.size(); ++l) {
       std::vector<int> unit(X.basis.size(), 0);

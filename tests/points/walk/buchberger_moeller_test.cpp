@@ -2,22 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
+#include "arith/list.h"
+#include "reference/candidates.h"
 #include "tests/points/plain_walk.h"
 #include "tests/points/point_sets.h"
+#include "tests/points/printed.h"
 #include "tests/points/special_sets.h"
 
 namespace zep::tests {
 namespace {
 
-std::string printed(const polynomial& f) {
-  std::ostringstream out;
-  f.put(out);
-  return out.str();
-}
-
-std::vector<std::string> printed_basis(const scheme& X) {
+std::vector<std::string> printed_basis(const points::order_ideal& X) {
   std::vector<std::string> basis;
-  for (int g = 0; g < X.Ix->no_of_gens(); ++g) basis.push_back(printed(groebner_element(X, g)));
+  for (int g = 0; g < X.Ix.no_of_gens(); ++g) basis.push_back(printed(groebner_element(X, g)));
   return basis;
 }
 
@@ -31,20 +30,17 @@ using names = std::vector<std::string>;
 
 TEST(BuMo, OfOnePointFindsTheDifferencesToItsCoordinates) {
   const ring_in_force ring(101, 3);
-  scheme X = make_set({{5, 95, 7}});
-  const silence quiet;
-  bu_mo(X);
+  told reporter;
+  const points::order_ideal X = bu_mo(rows_of({{5, 95, 7}}), reporter);
   EXPECT_EQ(printed_monomials(X.O), names{"1"});
   EXPECT_EQ(printed_basis(X), (names{"Z-7", "Y+6", "X-5"}));
   EXPECT_EQ(printed_monomials(X.B), (names{"Z", "Y", "X"}));
-  EXPECT_EQ(quiet.err.text(), "calculating triangular sequence ...\n[1]\n");
+  EXPECT_EQ(reporter.err, "calculating triangular sequence ...\n[1]\n");
 }
 
 TEST(BuMo, OfPointsThatDifferInTheLastCoordinateFindsItsPowers) {
   const ring_in_force ring(101, 3);
-  scheme X = make_set({{4, 9, 1}, {4, 9, 7}, {4, 9, 0}, {4, 9, 100}});
-  const silence quiet;
-  bu_mo(X);
+  const points::order_ideal X = walked({{4, 9, 1}, {4, 9, 7}, {4, 9, 0}, {4, 9, 100}});
   EXPECT_EQ(printed_monomials(X.O), (names{"1", "Z", "Z2", "Z3"}));
   const names basis = printed_basis(X);
   ASSERT_EQ(basis.size(), 3U);
@@ -53,55 +49,53 @@ TEST(BuMo, OfPointsThatDifferInTheLastCoordinateFindsItsPowers) {
   EXPECT_EQ(basis[2].substr(0, 2), "Z4");
 }
 
-TEST(BuMo, WritesLineAlwaysAndProgressOnlyWhenVerbose) {
+TEST(BuMo, TellsOfEachMemberOfTheOrderIdealAndOfItsEnd) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {1, 0}, {0, 1}});
-  scheme Y = X;
-  {
-    const silence loud;
-    bu_mo(X);
-    EXPECT_EQ(loud.out.text(), line);
-    EXPECT_EQ(loud.err.text(), "calculating triangular sequence ...\n[3][2][1]\n");
-  }
-  verbose = 0;
-  const silence quiet;
-  bu_mo(Y);
-  verbose = 1;
-  EXPECT_EQ(quiet.out.text(), line);
-  EXPECT_EQ(quiet.err.text(), "");
+  told reporter;
+  bu_mo(rows_of({{0, 0}, {1, 0}, {0, 1}}), reporter);
+  EXPECT_EQ(reporter.out, line);
+  EXPECT_EQ(reporter.err, "calculating triangular sequence ...\n[3][2][1]\n");
 }
 
-TEST(BuMo, IsNotRunAgainWhenItHasRun) {
+TEST(BuMo, OfNoPointsTellsOfItsEndAllTheSame) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {1, 0}});
-  scheme none(0);
-  const silence quiet;
-  need_bu_mo(X);
-  need_bu_mo(X);
-  need_bu_mo(none);
-  need_bu_mo(none);
-  EXPECT_EQ(quiet.out.text(), line + line);
+  told reporter;
+  bu_mo(rows_of({}), reporter);
+  EXPECT_EQ(reporter.out, line);
+  EXPECT_EQ(reporter.err, "calculating triangular sequence ...\n\n");
+}
+
+TEST(BuMo, FindsTheSameWhoeverListens) {
+  std::mt19937 random(19);
+  const ring_in_force ring(101, 3);
+  const matrix P = rows_of(random_points(150, random));
+  told attentive;
+  told inattentive(false);
+  const points::order_ideal X = bu_mo(P, attentive);
+  const points::order_ideal Y = bu_mo(P, inattentive);
+  EXPECT_EQ(X.O, Y.O);
+  EXPECT_EQ(X.B, Y.B);
+  EXPECT_EQ(printed_basis(X), printed_basis(Y));
+  EXPECT_EQ(X.separator, Y.separator);
 }
 
 TEST(BuMo, OfNoPointsFindsNothing) {
   const ring_in_force ring(101, 3);
-  scheme X(0);
-  const silence quiet;
-  bu_mo(X);
-  EXPECT_TRUE(X.has_bu_mo);
+  const points::order_ideal X = walked({});
+  EXPECT_EQ(X.s(), 0);
+  EXPECT_EQ(X.no_of_border(), 0);
   EXPECT_TRUE(X.O.empty());
   EXPECT_TRUE(X.B.empty());
-  EXPECT_EQ(X.Ix->no_of_gens(), 0);
+  EXPECT_EQ(X.Ix.no_of_gens(), 0);
 }
 
 TEST(BuMo, OfRepeatedPointsFillsTheOrderIdealUpWithOnes) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set({{0, 0}, {0, 0}, {1, 0}, {0, 0}});
-  const silence quiet;
-  bu_mo(X);
+  told reporter;
+  const points::order_ideal X = bu_mo(rows_of({{0, 0}, {0, 0}, {1, 0}, {0, 0}}), reporter);
   EXPECT_EQ(printed_monomials(X.O), (names{"1", "X", "1", "1"}));
   EXPECT_EQ(printed_basis(X), (names{"Y", "X2-X"}));
-  EXPECT_EQ(quiet.err.text(), "calculating triangular sequence ...\n[4][3]\n");
+  EXPECT_EQ(reporter.err, "calculating triangular sequence ...\n[4][3]\n");
 }
 
 TEST(BuMo, TakesTwoHundredPointsOnALine) {
@@ -113,37 +107,34 @@ TEST(BuMo, TakesTwoHundredPointsOnALine) {
       point[0] = i;
       points.push_back(point);
     }
-    scheme X = make_set(points);
-    const silence quiet;
-    bu_mo(X);
+    const points::order_ideal X = walked(points);
     EXPECT_EQ(printed(polynomial(X.O.back())), "X199");
-    const polynomial last = groebner_element(X, X.Ix->no_of_gens() - 1);
+    const polynomial last = groebner_element(X, X.Ix.no_of_gens() - 1);
     EXPECT_EQ(last.term(0).exp(0), 200);
     for (const coordinates& point : points) EXPECT_EQ(value_at(last, point), 0);
-    EXPECT_EQ(X.sigma, 198);
+    EXPECT_EQ(X.H.sigma, 198);
   }
 }
 
-void expect_basis(const scheme& X, const plain_walk& plain) {
-  ASSERT_EQ(X.Ix->no_of_gens(), static_cast<int>(plain.leads.size()));
-  for (int g = 0; g < X.Ix->no_of_gens(); ++g) {
-    EXPECT_EQ(X.Ix->lead(g), plain.leads[g]);
-    EXPECT_TRUE(std::ranges::equal(X.Ix->tail(g), plain.tails[g]));
+void expect_basis(const points::order_ideal& X, const plain_walk& plain) {
+  ASSERT_EQ(X.Ix.no_of_gens(), static_cast<int>(plain.leads.size()));
+  for (int g = 0; g < X.Ix.no_of_gens(); ++g) {
+    EXPECT_EQ(X.Ix.lead(g), plain.leads[g]);
+    EXPECT_TRUE(std::ranges::equal(X.Ix.tail(g), plain.tails[g]));
   }
 }
 
 // O, border, Groebner basis and separators are those of the plain algorithm.
 void expect_as_in_the_plain_walk(const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  bu_mo(X);
-  const plain_walk plain(X);
+  const matrix P = rows_of(points);
+  const points::order_ideal X = bu_mo(P, nobody());
+  const plain_walk plain(P);
   EXPECT_EQ(printed_monomials(X.O), printed_monomials(plain.O));
   EXPECT_EQ(printed_monomials(X.B), printed_monomials(plain.B));
   expect_basis(X, plain);
   const std::vector<plain_walk::row> separators = plain.separators();
-  for (int i = 0; i < X.s; ++i) {
-    EXPECT_TRUE(std::ranges::equal(X.separator.row(i), separators[i]));
+  for (int i = 0; i < X.s(); ++i) {
+    EXPECT_TRUE(std::ranges::equal(X.separator[i], separators[i]));
   }
 }
 
@@ -166,13 +157,12 @@ TEST(BuMo, IsThePlainAlgorithmOnSpecialPoints) { for_each_set(expect_as_in_the_p
 TEST(BuMo, IsThePlainAlgorithmOnMeaninglessPointsButForSeparators) {
   int filled_up = 0;
   for_each_meaningless_set([&](const std::vector<coordinates>& points) {
-    scheme X = make_set(points);
-    const silence quiet;
-    bu_mo(X);
-    const plain_walk plain(X);
+    const matrix P = rows_of(points);
+    const points::order_ideal X = bu_mo(P, nobody());
+    const plain_walk plain(P);
     std::vector<monom> O = plain.O;
-    filled_up += std::ssize(O) < X.s ? 1 : 0;
-    O.resize(X.s);
+    filled_up += std::ssize(O) < X.s() ? 1 : 0;
+    O.resize(X.s());
     EXPECT_EQ(printed_monomials(X.O), printed_monomials(O));
     EXPECT_EQ(printed_monomials(X.B), printed_monomials(plain.B));
     expect_basis(X, plain);
@@ -181,10 +171,10 @@ TEST(BuMo, IsThePlainAlgorithmOnMeaninglessPointsButForSeparators) {
 }
 
 // The walk with all candidates in one list, where `element` counts the ways to reach each. Which of
-// them are independent is looked up in a record that is done.
+// them are independent is looked up in an order ideal that is known.
 class walk_over_a_list {
  public:
-  explicit walk_over_a_list(const scheme& X) {
+  explicit walk_over_a_list(const points::order_ideal& X) {
     candidates_.add({.t = monom(), .n = -1, .k = -1, .ins = 0});
     while (!candidates_.empty()) {
       mmm m;
@@ -226,15 +216,13 @@ class walk_over_a_list {
 // the end of the list.
 TEST(BuMo, IsTheWalkOverAListWhereNoCountIsLost) {
   for_each_set([](const std::vector<coordinates>& points) {
-    scheme X = make_set(points);
-    const silence quiet;
-    bu_mo(X);
+    const points::order_ideal X = walked(points);
     const walk_over_a_list walk(X);
     EXPECT_EQ(walk.lost, 0);
     EXPECT_EQ(walk.O, X.O);
     EXPECT_EQ(walk.B, X.B);
-    ASSERT_EQ(static_cast<int>(walk.leads.size()), X.Ix->no_of_gens());
-    for (int g = 0; g < X.Ix->no_of_gens(); ++g) EXPECT_EQ(walk.leads[g], X.Ix->lead(g));
+    ASSERT_EQ(static_cast<int>(walk.leads.size()), X.Ix.no_of_gens());
+    for (int g = 0; g < X.Ix.no_of_gens(); ++g) EXPECT_EQ(walk.leads[g], X.Ix.lead(g));
   });
 }
 
@@ -242,11 +230,10 @@ TEST(BuMo, SurvivesEveryCompositeCharacteristic) {
   std::mt19937 random(7);
   for (const int p : {4, 6, 8, 9, 15, 128, 249, 250}) {
     const ring_in_force ring(p, 3);
-    scheme X = make_set(random_points(20, random));
-    const silence quiet;
-    bu_mo(X);
-    EXPECT_EQ(std::ssize(X.O), X.s);
-    EXPECT_EQ(X.separator.rows(), X.s);
+    const std::vector<coordinates> points = random_points(20, random);
+    const points::order_ideal X = walked(points);
+    EXPECT_EQ(X.s(), std::ssize(points));
+    EXPECT_EQ(X.separator.rows(), X.s());
   }
 }
 
@@ -262,15 +249,13 @@ class BuMoProperty : public ::testing::TestWithParam<setting> {
  protected:
   void SetUp() override {
     points_ = random_points(GetParam().s, random_);
-    X_ = make_set(points_);
-    const silence quiet;
-    bu_mo(*X_);
+    X_.emplace(walked(points_));
   }
 
   const ring_in_force ring_{GetParam().p, GetParam().n, GetParam().order};
   std::mt19937 random_{static_cast<unsigned>(GetParam().p * 1000 + GetParam().n)};
   std::vector<coordinates> points_;
-  std::optional<scheme> X_;
+  std::optional<points::order_ideal> X_;
 };
 
 TEST_P(BuMoProperty, TheOrderIdealIsTheFirstIndependentMonomials) {
@@ -311,10 +296,10 @@ TEST_P(BuMoProperty, LeadingMonomialsAreTheMinimalOnesOfTheBorder) {
     if (is_minimal) minimal.insert(e);
   }
   std::set<exponents> leads;
-  for (int g = 0; g < X_->Ix->no_of_gens(); ++g) {
-    leads.insert(exponents_of(X_->Ix->lead(g)));
+  for (int g = 0; g < X_->Ix.no_of_gens(); ++g) {
+    leads.insert(exponents_of(X_->Ix.lead(g)));
     if (g > 0) {
-      EXPECT_TRUE(monom_ordering_lt(X_->Ix->lead(g - 1), X_->Ix->lead(g)));
+      EXPECT_TRUE(monom_ordering_lt(X_->Ix.lead(g - 1), X_->Ix.lead(g)));
     }
   }
   EXPECT_EQ(leads, minimal);
@@ -326,7 +311,7 @@ TEST_P(BuMoProperty, TheBasisIsReducedMonicAndVanishes) {
     for (const monom& t : X_->O) standard.insert(exponents_of(t));
     return standard;
   }();
-  for (int g = 0; g < X_->Ix->no_of_gens(); ++g) {
+  for (int g = 0; g < X_->Ix.no_of_gens(); ++g) {
     const polynomial f = groebner_element(*X_, g);
     EXPECT_EQ(f.coef(0), Fp8(1));
     for (int i = 1; i < f.no_of_monoms(); ++i) {
@@ -340,9 +325,7 @@ TEST_P(BuMoProperty, TheBasisIsReducedMonicAndVanishes) {
 
 TEST_P(BuMoProperty, NothingDependsOnTheOrderOfThePoints) {
   std::shuffle(points_.begin(), points_.end(), random_);
-  scheme Y = make_set(points_);
-  const silence quiet;
-  bu_mo(Y);
+  const points::order_ideal Y = walked(points_);
   EXPECT_EQ(printed_monomials(Y.O), printed_monomials(X_->O));
   EXPECT_EQ(printed_monomials(Y.B), printed_monomials(X_->B));
   EXPECT_EQ(printed_basis(Y), printed_basis(*X_));

@@ -14,14 +14,7 @@
 namespace zep::tests {
 namespace {
 
-using row = std::vector<Fp8>;
 using rows = std::vector<row>;
-
-row row_of(const std::vector<int>& values) {
-  row r;
-  for (const int value : values) r.emplace_back(value);
-  return r;
-}
 
 std::vector<bool> joined(const std::vector<separator_table::verdict>& verdicts) {
   std::vector<bool> flags;
@@ -58,7 +51,7 @@ TEST(SeparatorTable, TellsWhatAMonomialLacksToVanish) {
   table.take({row_of({5, 7})});
   const auto verdicts = table.take({row_of({25, 49})});
   EXPECT_FALSE(verdicts[0].joined);
-  EXPECT_EQ(verdicts[0].tail, row_of({35, 101 - 12}));
+  EXPECT_EQ(verdicts[0].tail, row_of({35, -12}));
 }
 
 TEST(SeparatorTable, LetsNoRowOfZerosJoin) {
@@ -178,8 +171,7 @@ TEST(SeparatorTable, HoldsForEachPivotWhatIsOneThereAndZeroAtTheOthers) {
   std::vector<row> found(s, row(s));
   std::vector<int> pivots;
   for (int i = 0; i < s; ++i) {
-    if (f.row(i).end() !=
-        std::find_if(f.row(i).begin(), f.row(i).end(), [](Fp8 c) { return c != 0; })) {
+    if (f[i].end() != std::find_if(f[i].begin(), f[i].end(), [](Fp8 c) { return c != 0; })) {
       pivots.push_back(i);
     }
     for (std::size_t k = 0; k < members.size(); ++k) {

@@ -3,206 +3,145 @@
 #include <gtest/gtest.h>
 
 #include "points/walk/beta_matrix.h"
-#include "points/walk/buchberger_moeller.h"
-#include "points/walk/separators.h"
 #include "tests/draw.h"
-#include "tests/points/everything.h"
 #include "tests/points/point_sets.h"
+#include "tests/points/special_sets.h"
 
 namespace zep::tests {
 namespace {
 
-// What a test prints, on a set that knows its points only.
-std::string delta_verdict(scheme& X) {
-  const silence quiet;
-  std::ostringstream out;
-  is_delta_uf(out, X);
-  return out.str();
+using dependence = std::optional<std::vector<int>>;
+
+matrix beta_of(const std::vector<coordinates>& points) {
+  return beta_matrix(walked(points), nobody()).beta;
 }
 
-std::string n_verdict(scheme& X, int n) {
-  const silence quiet;
-  std::ostringstream out;
-  is_n_uf(out, X, n);
-  return out.str();
-}
+// Which of k are dependent, and what is told of the search.
+struct search {
+  search(const std::vector<coordinates>& points, int k) {
+    told reporter;
+    found = dependent_separators(beta_of(points), k, reporter);
+    out = reporter.out;
+    err = reporter.err;
+  }
 
-// Runs quietly while it lives.
-class hush {
- public:
-  hush() { verbose = 0; }
-  ~hush() { verbose = 1; }
-  hush(const hush&) = delete;
-  hush& operator=(const hush&) = delete;
+  dependence found;
+  std::string out;
+  std::string err;
 };
 
 const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
 // Three points on one line and two on another: the separators of the second and third point have
 // proportional leading forms.
 const std::vector<coordinates> two_lines = {{0, 0}, {1, 0}, {2, 0}, {0, 1}, {0, 2}};
+
+TEST(DependentSeparators, AreNoneOfTheTriangle) {
+  const ring_in_force ring(101, 2);
+  for (const int k : {1, 2}) EXPECT_EQ(search(triangle, k).found, std::nullopt);
+}
+
+TEST(DependentSeparators, AreTheFirstOnesThatDepend) {
+  const ring_in_force ring(101, 2);
+  EXPECT_EQ(search(two_lines, 1).found, std::nullopt);
+  EXPECT_EQ(search(two_lines, 2).found, (std::vector<int>{1, 2}));
+  EXPECT_EQ(search({{1, 0}, {2, 0}, {0, 0}, {0, 1}, {0, 2}}, 2).found, (std::vector<int>{0, 1}));
+}
+
 // A conic that vanishes at all points but the last separates it, so its leading form is 0.
-const std::vector<coordinates> one_off_two_lines = {{0, 0}, {1, 0}, {2, 0}, {3, 0},
-                                                    {0, 1}, {0, 2}, {0, 3}, {1, 1}};
-// Sets with delta = 1, the first with the Cayley-Bacharach property.
-const std::vector<coordinates> one_line = {{0, 0}, {1, 0}, {2, 0}};
-const std::vector<coordinates> one_off_the_line = {{0, 0}, {1, 0}, {2, 0}, {0, 1}};
-
-// A set for which `make` has been computed, and nothing else.
-template <class Make>
-scheme set_with(Make make, const std::vector<coordinates>& points) {
-  scheme X = make_set(points);
-  const silence quiet;
-  make(X);
-  return X;
-}
-
-TEST(DeltaUniformity, IsDecidedByCayleyBacharachWhenDeltaIsOne) {
+TEST(DependentSeparators, AreJustOneWhereALeadingFormIsZero) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set(one_line);
-  EXPECT_EQ(delta_verdict(X),
-            "scheme has Cayley-Bacharach property\n"
-            "since delta = 1, scheme has also delta uniform property\nand is even 2-uniform\n" +
-                line);
-  scheme Y = make_set(one_off_the_line);
-  EXPECT_EQ(delta_verdict(Y),
-            "scheme has NOT Cayley-Bacharach property\n"
-            "hence it cannot have delta uniform property\n" +
-                line);
+  const std::vector<coordinates> one_off_two_lines = {{0, 0}, {1, 0}, {2, 0}, {3, 0},
+                                                      {0, 1}, {0, 2}, {0, 3}, {1, 1}};
+  EXPECT_EQ(search(one_off_two_lines, 1).found, std::vector<int>{7});
 }
 
-TEST(DeltaUniformity, CountsDownAndEndsTheLineBeforeTheVerdict) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  EXPECT_EQ(delta_verdict(X), "[2][1]\nscheme has delta uniform property\n" + line);
-  scheme Y = make_set(two_lines);
-  EXPECT_EQ(delta_verdict(Y),
-            "[4]\nlinear dependence between f2, f3, \ntherefore \n"
-            "scheme has NOT delta uniform property\n" +
-                line);
-}
-
-TEST(DeltaUniformity, SaysTheSameQuietlyWithoutTheLineEnd) {
-  const ring_in_force ring(101, 2);
-  const hush quiet;
-  scheme X = make_set(triangle);
-  EXPECT_EQ(delta_verdict(X), "scheme has delta uniform property\n" + line);
-  scheme Y = make_set(two_lines);
-  EXPECT_EQ(delta_verdict(Y),
-            "\nlinear dependence between f2, f3, \ntherefore "
-            "scheme has NOT delta uniform property\n" +
-                line);
-}
-
-TEST(DeltaUniformity, NamesTheFirstSeparatorsWithoutACountdownWhenTheyDepend) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set({{1, 0}, {2, 0}, {0, 0}, {0, 1}, {0, 2}});
-  EXPECT_EQ(delta_verdict(X),
-            "\nlinear dependence between f1, f2, \ntherefore \n"
-            "scheme has NOT delta uniform property\n" +
-                line);
-}
-
-TEST(NUniformity, IsRefusedForNBelowOne) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  for (const int n : {0, -1, -2147483647 - 1}) {
-    EXPECT_EQ(n_verdict(X, n), "n-unifomity only defined for n > 0 !!!\n" + line);
-  }
-  EXPECT_EQ(contents(X), contents(make_set(triangle)));
-}
-
-TEST(NUniformity, IsRefusedForNAboveDelta) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  for (const int n : {3, 2147483647}) {
-    EXPECT_EQ(n_verdict(X, n),
-              "sorry, but checking n-unifomity for n > delta is not supported yet\n" + line);
-  }
-  EXPECT_EQ(contents(X), contents(set_with(need_bu_mo, triangle)));
-}
-
-TEST(NUniformity, ForNEqualToDeltaIsDeltaUniformity) {
-  const ring_in_force ring(101, 2);
-  for (const auto& points : {triangle, two_lines, one_line, one_off_the_line}) {
-    scheme X = make_set(points);
-    scheme Y = X;
-    EXPECT_EQ(n_verdict(X, set_with(need_bu_mo, points).delta), delta_verdict(Y));
-    EXPECT_EQ(contents(X), contents(Y));
-  }
-}
-
-TEST(NUniformity, OpensItsPositiveVerdictWithALineEnd) {
-  const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  EXPECT_EQ(n_verdict(X, 1), "[3][2][1]\nscheme has 1-uniform property\n" + line);
-  const hush quiet;
-  EXPECT_EQ(n_verdict(X, 1), "\nscheme has 1-uniform property\n" + line);
-}
-
-TEST(NUniformity, ForOneNamesTheFirstZeroRow) {
+TEST(DependentSeparators, AreTheFirstZeroRowForOne) {
   const ring_in_force ring(101, 3);
   const std::vector<coordinates> points = {{1, 0, 1}, {0, 0, 1}, {2, 1, 0},
                                            {0, 0, 2}, {0, 1, 2}, {2, 2, 0}};
-  scheme X = make_set(points);
-  EXPECT_EQ(n_verdict(X, 1),
-            "[6]\nlinear dependence between f2, \ntherefore "
-            "scheme has NOT 1-uniform property\n" +
-                line);
-  for (int l = 0; l < X.delta; ++l) EXPECT_EQ((*X.beta_matrix)[1][l], Fp8(0));
+  const matrix beta = beta_of(points);
+  for (const Fp8 x : beta[1]) EXPECT_EQ(x, Fp8(0));
+  EXPECT_EQ(search(points, 1).found, std::vector<int>{1});
 }
 
-TEST(Uniformity, MakesItsPrerequisitesOnce) {
+TEST(DependentSeparators, TellHowFarTheLastPointHasCome) {
   const ring_in_force ring(101, 2);
-  scheme X = make_set(triangle);
-  const silence loud;
-  std::ostringstream out;
-  is_delta_uf(out, X);
-  is_delta_uf(out, X);
-  is_n_uf(out, X, 1);
-  EXPECT_EQ(loud.out.text(), line + line);
-  EXPECT_EQ(loud.err.text(),
-            "calculating triangular sequence ...\n[3][2][1]\n"
-            "calculating biorthogonal sequence ...\n[3][2][1]\n"
-            "calculating beta matrix ...\n[2][1]\n");
+  EXPECT_EQ(search(triangle, 1).out, "[3][2][1]");
+  EXPECT_EQ(search(triangle, 2).out, "[2][1]");
+  EXPECT_EQ(search(two_lines, 1).out, "[5][4][3][2][1]");
+  EXPECT_EQ(search(two_lines, 2).out, "[4]");
+  EXPECT_EQ(search(two_lines, 2).err, "");
 }
 
-TEST(Uniformity, StoresNothingButItsPrerequisites) {
+TEST(DependentSeparators, TellNothingWhenTheFirstOnesDepend) {
   const ring_in_force ring(101, 2);
-  for (const auto& points : {triangle, two_lines, one_off_two_lines}) {
-    const std::string prerequisites = contents(set_with(beta_matrix, points));
-    scheme X = make_set(points);
-    delta_verdict(X);
-    EXPECT_EQ(contents(X), prerequisites);
-    scheme Y = make_set(points);
-    n_verdict(Y, 1);
-    EXPECT_EQ(contents(Y), prerequisites);
-  }
-  for (const auto& points : {one_line, one_off_the_line}) {
-    scheme X = make_set(points);
-    delta_verdict(X);
-    EXPECT_EQ(contents(X), contents(set_with(need_sep, points)));
+  const search first({{1, 0}, {2, 0}, {0, 0}, {0, 1}, {0, 2}}, 2);
+  EXPECT_EQ(first.out + first.err, "");
+}
+
+TEST(DependentSeparators, AreNeverNoneAtAll) {
+  const ring_in_force ring(101, 2);
+  for (const auto& points : {std::vector<coordinates>(), triangle, two_lines}) {
+    const search nothing(points, 0);
+    EXPECT_EQ(nothing.found, std::nullopt);
+    EXPECT_EQ(nothing.out + nothing.err, "");
   }
 }
 
-TEST(Uniformity, OfNoPointsDoesNotFail) {
-  const ring_in_force ring(101, 2);
-  scheme X(0);
-  EXPECT_EQ(delta_verdict(X), "\nscheme has delta uniform property\n" + line);
-  EXPECT_EQ(n_verdict(X, 1),
-            "sorry, but checking n-unifomity for n > delta is not supported yet\n" + line);
-}
-
-TEST(Uniformity, SurvivesMeaninglessData) {
+TEST(DependentSeparators, OfMeaninglessPointsAreLookedForAllTheSame) {
   std::mt19937 random(5);
   for (const int p : {4, 6, 9, 250}) {
     const ring_in_force ring(p, 2);
-    scheme X = make_set(random_points(12, random));
-    EXPECT_NE(delta_verdict(X), "");
-    for (int n = 1; n < X.delta; ++n) EXPECT_NE(n_verdict(X, n), "");
+    const matrix beta = beta_of(random_points(12, random));
+    for (int k = 1; k <= beta.cols(); ++k) {
+      const dependence found = dependent_separators(beta, k, nobody());
+      if (found) {
+        EXPECT_EQ(std::ssize(*found), k);
+      }
+    }
   }
   const ring_in_force ring(101, 2);
-  scheme repeated = make_set({{1, 1}, {2, 2}, {1, 1}, {0, 3}, {0, 3}});
-  EXPECT_NE(delta_verdict(repeated), "");
+  const matrix beta = beta_of({{1, 1}, {2, 2}, {1, 1}, {0, 3}, {0, 3}});
+  EXPECT_NO_THROW(dependent_separators(beta, beta.cols(), nobody()));
+}
+
+// The rule straight away: subsets in colexicographic order, and their ranks.
+dependence plainly_dependent(const matrix& beta, int k) {
+  std::vector<int> chosen;
+  for (int i = 0; i < k; ++i) chosen.push_back(i);
+  while (true) {
+    plain_echelon rows;
+    for (const int i : chosen) {
+      std::vector<int> values;
+      for (const Fp8 x : beta[i]) values.push_back(x.value());
+      rows.add(values);
+    }
+    if (rows.rank() < k) return chosen;
+    // The first that can move does, and those before it go back to the start.
+    int j = 0;
+    while (chosen[j] + 1 == (j + 1 < k ? chosen[j + 1] : beta.rows())) {
+      chosen[j] = j;
+      if (++j == k) return std::nullopt;
+    }
+    ++chosen[j];
+  }
+}
+
+TEST(DependentSeparatorsProperty, AreThoseThatTheWalkOverAllSubsetsFindsFirst) {
+  std::mt19937 random(15);
+  int dependent = 0;
+  int independent = 0;
+  for (int round = 0; round < 120; ++round) {
+    const ring_in_force ring(round % 2 == 0 ? 5 : 101, 2 + round % 2);
+    const matrix beta = beta_of(random_points(1 + below(random, 10), random));
+    for (int k = 1; k <= beta.cols(); ++k) {
+      const dependence expected = plainly_dependent(beta, k);
+      ASSERT_EQ(dependent_separators(beta, k, nobody()), expected);
+      ++(expected ? dependent : independent);
+    }
+  }
+  EXPECT_GT(dependent, 30);
+  EXPECT_GT(independent, 30);
 }
 
 }  // namespace

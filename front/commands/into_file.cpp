@@ -1,0 +1,10 @@
+#include "front/commands/into_file.h"
+
+namespace zep::front {
+
+std::string ask_filename(session& z) {
+  z.shared.prompt.ask_for_filename();
+  return z.typed.word();
+}
+
+}  // namespace zep::front
