@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The prime field F_p on machine integers: exact, slow, used to build the tables of Fp8 and to
 // read and print coefficients. Everything stored is an Fp8.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The coefficient field of all computation: one byte an element, one look-up an operation.
 #pragma once
 

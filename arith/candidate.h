@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Candidate monomials of a walk over the monomials (Buchberger-Moeller).
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The work set of the socle: filled by appending, emptied smallest first.
 #pragma once
 

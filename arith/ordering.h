@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Term orders: plain functions on two monomials, and the order of the ring in force.
 //
 // In every order the variables rank X > Y > Z > ... . Affine orders look at the first `proj` - 1

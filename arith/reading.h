@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers as they are typed. One place knows their syntax.
 //
 // Every function skips leading white space and leaves a stream that was good

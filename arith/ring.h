@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ring in force: what everybody reads of it.
 //
 // There is one at a time in a process: operators on field elements and monomials must not have to

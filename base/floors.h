@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The floors of the house, from the ground up: a folder each, with a namespace of its name.
 //
 // What is named on a floor may be used on those above it without the floor's name. A file includes

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Ending a computation from outside.
 //
 // Whoever wants that - the user at the terminal, who presses Ctrl-C - requests it; the computation

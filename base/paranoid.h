@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Invariants that are checked in the paranoid build, and cost nothing in any other.
 #pragma once
 

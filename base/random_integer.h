@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The random generator. Every release draws the same points from the same commands, so the sequence
 // is part of the interface.
 #pragma once

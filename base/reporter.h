@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What computations tell on their way.
 //
 // Computations print nothing. They are handed a reporter and tell it what goes on; where that

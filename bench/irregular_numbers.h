@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Irregular numbers, the same in every run and with every compiler.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Combinations of rows: the product of matrices, for rows that stand anywhere.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows that are mostly zero, and their elimination.
 #pragma once
 

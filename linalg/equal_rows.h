@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which rows of a matrix are equal, while rows change.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows of field elements: the matter of every elimination.
 #pragma once
 

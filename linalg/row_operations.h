@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operations on rows that every elimination is made of. One place to make them faster.
 //
 // The rows of one call have one length and do not overlap, unless said. The result is the same,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Polynomials brought back onto the order ideal by canonical forms.
 #pragma once
 

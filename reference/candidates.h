@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The walk's list of candidates, candidate by candidate. The walk itself sorts all products of a
 // degree at once and counts runs of equal ones.
 #pragma once

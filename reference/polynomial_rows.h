@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Elimination among rows of polynomials, entry by entry. The canonical module is computed with rows
 // over numbered monomials instead.
 #pragma once

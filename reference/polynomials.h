@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Functions on monomials and polynomials that no command needs.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless the program that times sessions works, and notices runs that fail.
 #   bench_sessions.sh SESSIONS ZEP
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless the program takes closed or unreadable standard streams in its stride.
 #   closed_streams.sh ZEP
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless each folder of the floors has a README of one screen that names each of its rooms, a
 # header with its source, and no document for developers names a file that does not exist.
 #   developers.sh TOP

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the sessions in documents, and compares what they do with what stands there.
 #   documented_sessions.sh ZEP DOCUMENT...
 # With UPDATE=1 in the environment, writes into the documents what the sessions do, also where no block

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the examples, each in an empty folder, and compares what they print.
 #   examples.sh ZEP FOLDER
 # Each NAME.zep in FOLDER must print NAME.txt, nothing on standard error, and end with status 0. It

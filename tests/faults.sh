@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless a session outlives whatever is wrong with the files and pipes around it.
 #   faults.sh ZEP
 set -euo pipefail

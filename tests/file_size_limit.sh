@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless a result file that may not grow is a warning, and not the end of the session.
 #   file_size_limit.sh ZEP
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when a file includes one of a floor above its own, rooms depend on each other in a circle, a
 # file is on no floor, or one has more than 400 lines.
 #   floors.sh TOP

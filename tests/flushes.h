@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a stream has handed on to whoever looks at its other end.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when the program has a writable global that is not listed here with a reason, or when one that
 # is listed is gone.
 #   globals.sh ZEP

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless each command of `help` is used in a session of the guide and has a row in its last table,
 # and each link to a chapter of the guide finds one.
 #   guide.sh ZEP TOP

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the program into an empty folder and through its Debian package, and looks whether all of it
 # is there and works.
 #   install.sh BUILD TOP

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless every option does what it says, on the stream and with the status that it says.
 #   options.sh ZEP
 set -euo pipefail

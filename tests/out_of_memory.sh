@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless exhausted memory ends the program with status 10 and a message on standard error.
 #   out_of_memory.sh ZEP
 set -euo pipefail

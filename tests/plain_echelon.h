@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Gaussian elimination on integers, without any code of the program but the prime.
 #pragma once
 

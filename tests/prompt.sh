@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless everything that belongs before a prompt, and the prompt, is out before the program
 # waits for input, although standard output is no terminal.
 #   prompt.sh ZEP

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when a source below front/ writes on standard output or standard error: computations tell a
 # reporter what goes on, displays write on a stream that they are given.
 #   quiet_floors.sh TOP

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails unless all that speaks of the release and of the licence says the same.
 #   release.sh TOP
 set -euo pipefail
@@ -32,4 +33,11 @@ done
 for paper in LICENSE tools/copyright; do
   grep -qF /usr/share/common-licenses/GPL-3 "$paper" || complain "$paper: where is the licence?"
 done
+
+unmarked=$(find . -name '.git' -prune -o -name 'build*' -prune -o \( -name '*.h' -o -name '*.cpp' -o -name '*.sh' \
+  -o -name '*.cmake' -o -name CMakeLists.txt -o -path ./check -o -path ./run -o -path ./.ci/run \) -type f \
+  -exec awk -v mark="SPDX-License-Identifier: $licence" '
+    FNR <= 2 && index($0, mark) { found = 1 }
+    FNR == 2 { if (!found) print FILENAME; found = 0; nextfile }' {} +)
+[ -z "$unmarked" ] || complain 'sources without their licence:'$'\n'"$unmarked"
 exit "$failed"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The canonical module in words. Each function prints one side of a presentation, and Line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Generators in words: those of the vanishing ideal and those of the socle. Each function prints
 // one result, and Line.
 #pragma once

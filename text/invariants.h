@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the walk over the monomials has found, and the verdicts on the two properties, in words.
 // Each function prints one result, and Line.
 #pragma once

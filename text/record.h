@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A set of points in words: its points, and in short what is known of it.
 #pragma once
 

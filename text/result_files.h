@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Results as text files, to keep or to use elsewhere.
 //
 // The files hold one item a line: a number of rows, a number of columns, and the entries, column by

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The vectors of a linear strand on screen and in files. Zero vectors are left out, and where there
 // are no others nothing is written at all.
 #pragma once

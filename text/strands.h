@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the linear strands as tables. Each function prints a table as it is, with zeros
 // for what has not been computed, and Line.
 #pragma once

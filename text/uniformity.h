@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Beta matrix and uniformity in words.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds for 64-bit ARM on another processor, with Debian's packages for that, and lets an emulator run
 # what was built: cmake -DCMAKE_TOOLCHAIN_FILE=tools/aarch64.cmake
 set(CMAKE_SYSTEM_NAME Linux)

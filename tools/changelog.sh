@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Writes the changelog of the Debian package, from the one in Markdown.
 #   changelog.sh CHANGELOG MAINTAINER OUT
 # A chapter there is a release, `## VERSION, YYYY-MM-DD`, with sections of items and nothing else, in

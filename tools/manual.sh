@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Writes the manual page, with the commands and the version that the program itself prints.
 #   manual.sh ZEP TEMPLATE PAGE
 set -euo pipefail

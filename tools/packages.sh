@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs Debian packages that are missing, or names them. Sourced by the scripts beside it.
 
 # need_packages NAME...: returns when all of them are installed. Installs the missing ones as root or

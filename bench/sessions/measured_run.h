@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs of whole sessions in a process of their own.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "bench/sessions/session_case.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Times whole sessions: the start of the program, reading the points, computing, writing the
 // output.
 //   sessions [--runs N] [--filter TEXT] [--long] ZEP [OTHER]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands in a list, made from the table of commands.
 #pragma once
 

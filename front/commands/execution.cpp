@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "front/commands/execution.h"
 
 #include "base/interrupt.h"

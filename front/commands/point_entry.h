@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Points typed at the terminal or read from a file.
 #pragma once
 

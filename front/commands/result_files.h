@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Results as text files, to keep or to use elsewhere.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings of the ring and of the program, and the commands that show or change them.
 //
 // A change of characteristic, dimension or ordering deletes every identifier: schemes are never

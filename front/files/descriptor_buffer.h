@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Descriptors of files as stream buffers: the standard library only opens files by name.
 #pragma once
 

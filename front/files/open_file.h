@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Descriptors of files. The system's part of opening them, apart from the streams.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The identifier table: owns every point set that the user has made.
 #pragma once
 

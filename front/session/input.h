@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user types: the one place that reads words and numbers and knows malformed from ended.
 #pragma once
 

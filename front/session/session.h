@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A session: commands from one source, carried out one after the other.
 #pragma once
 

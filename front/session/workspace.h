@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What sessions share: one run of the program can hold several, one after the other.
 #pragma once
 

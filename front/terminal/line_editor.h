@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Editing lines at the terminal: what a library does, or without one, the terminal itself.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines typed at the terminal, as a stream buffer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Words of 32 bytes, for the variants of kernels that are written for processors with AVX2.
 //
 // Only functions with the target attribute below may use them, and only x86 has them; the rest of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Arithmetic modulo p on 32 bytes at a time: residues.h in words of avx2.h.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How much fits in a machine word before a reduction modulo p, for every p that Fp8 allows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reduction modulo p of sums of products through floats, which tiles do in words of floats.
 //
 // A float holds sums x below 2^24 exactly, as it does the products of p with integers that are not

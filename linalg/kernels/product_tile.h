@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The innermost part of products of matrices: a small piece of the result, the tile.
 //
 // One factor of a tile is `tile_rows` rows of coefficients, the other one `tile_cols` columns of

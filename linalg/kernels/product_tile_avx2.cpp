@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "linalg/kernels/product_tile.h"
 
 #if defined(__x86_64__) || defined(__i386__)

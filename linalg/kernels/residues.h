@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Products modulo p in 16-bit lanes, without a division and without a comparison.
 //
 // A lane is a 16-bit number, of which a vector instruction takes many side by side. The constants

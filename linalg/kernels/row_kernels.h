@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The loops behind the operations on rows, in several variants that give the same bytes.
 //
 // A row is n contiguous bytes below p, the characteristic in force; rows may have any length and

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "linalg/kernels/row_kernels.h"
 
 #if defined(__x86_64__) || defined(__i386__)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Minimal generators of the homogeneous vanishing ideal.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The canonical module as a module over K[X_0], and multiplication in it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From the syzygies of all candidate projections to those of a minimal system of generators.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Matrices of polynomials, row by row.
 #pragma once
 

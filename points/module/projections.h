@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The projections that generate the canonical module, and the monomials of their syzygies.
 //
 // R is free over K[X_0] with the basis O. The canonical module w_R is its dual over K[X_0], with

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which members of a Groebner basis of syzygies the others generate.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A set of points that remembers what has been computed for it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The constants in relations between border elements.
 //
 // A graded module over K[X_0] has a basis, its members. Where a product of a member with a variable

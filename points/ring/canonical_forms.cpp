@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "points/ring/canonical_forms.h"
 
 #include <algorithm>

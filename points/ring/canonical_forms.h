@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Multiplication in the coordinate ring and in its Artinian reduction.
 #pragma once
 

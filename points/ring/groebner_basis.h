@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Polynomials supported on an order ideal, kept as rows of coefficients.
 //
 // Separators and the tails of Groebner basis elements are dense over the order ideal O: entry i of

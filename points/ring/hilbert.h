@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hilbert function and the numbers that can be read off it.
 //
 // With a degree-compatible term order the degrees of the order ideal count the Artinian reduction

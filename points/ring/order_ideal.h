@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order ideal of a set of points, and what the walk that finds it finds with it.
 #pragma once
 

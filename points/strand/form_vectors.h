@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Vectors of polynomials, the matter of linear strands.
 #pragma once
 

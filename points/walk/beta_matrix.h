@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The beta matrix: the leading forms of the separators. Here the leading form of a separator is its
 // part of degree sigma + 1, the greatest that one can have; 0 if its own degree is smaller.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "points/walk/separator_table.h"
 
 #include <algorithm>

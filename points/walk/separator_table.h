@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The separators of a growing set of points, while the order ideal grows.
 //
 // A monomial is independent of others if its values at the points are. Independent monomials

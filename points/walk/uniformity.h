@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Uniformity: whether every choice of so many separators is independent in the top degree.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Monomials and polynomials written down in a line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sessions with the interpreter, inside the test.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole sessions: any bytes are what somebody types.
 //
 // The program refuses no honest work, and some of it grows exponentially: subsets of separators in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Point files: any bytes are what `scheme` reads. The last byte is none of them, but chooses the
 // ring.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs a fuzz target on the files that are named, for builds without a fuzzer. Fails when the
 // target refuses one of them.
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stands in for front/files/open_file.cpp: the linker takes these definitions and leaves those of
 // the library out.
 #include "tests/fuzz/sandbox.h"

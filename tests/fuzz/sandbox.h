@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What every fuzz target runs the program in: no terminal, no file system, no end of the process,
 // and nothing left over from the run before.
 #pragma once

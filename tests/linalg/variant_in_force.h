@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tests that are run with every variant of the kernels.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Order ideals that have been written down: the program has computed nothing of them.
 #pragma once
 

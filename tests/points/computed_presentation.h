@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Presentations that are computed, in the form in which plain mathematics examines them.
 #pragma once
 

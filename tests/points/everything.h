@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Everything that can be computed for a set of points, and everything that can be known of one.
 #pragma once
 

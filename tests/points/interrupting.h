@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Interrupting what is done with a set of points, at every moment.
 #pragma once
 

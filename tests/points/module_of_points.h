@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The canonical module of a set of points over K[X_0], for tests of what is made of it.
 #pragma once
 

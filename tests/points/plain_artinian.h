@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Artinian reduction R/(X_0), found the long way.
 #pragma once
 

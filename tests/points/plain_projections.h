@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The projections as vectors of F_p^s, found the long way.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The linear strands of I_X and w_R, found the long way: with vectors of polynomials in full length
 // that are searched from end to end.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Buchberger-Moeller algorithm and the separators by one triangular reduction after the other:
 // one look-up an operation, one candidate at a time, polynomials as rows of coefficients over O.
 #pragma once

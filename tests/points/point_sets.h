@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Point sets for tests, and plain mathematics on them that shares no code with the computations.
 #pragma once
 

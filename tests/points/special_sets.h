@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sets of points that have something special, and walks over many sets in many rings.
 #pragma once
 

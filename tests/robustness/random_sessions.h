@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sessions that nobody would type, and some that somebody would.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs random sessions.
 //   run_random_sessions FROM TO         those with these numbers
 //   run_random_sessions --into F SEED   puts one, and the files that it reads, into folder F

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Commands as somebody types them who knows ZEP: their arguments are good most of the time.
 #pragma once
 

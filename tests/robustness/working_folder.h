@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The folder in which a session of the tests reads and writes files.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <benchmark/benchmark.h>
 
 #include "bench/points/after_bu_mo.h"

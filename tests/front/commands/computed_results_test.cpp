@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Commands that have a result computed and print it, and those for uniformity, which choose what to
 // compute.
 #include <gtest/gtest.h>

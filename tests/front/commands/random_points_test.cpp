@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "front/commands/random_points.h"
 
 #include <gtest/gtest.h>

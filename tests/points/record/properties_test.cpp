@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Who decides the Cayley-Bacharach and the Gorenstein property, the separators or the socle.
 #include <gtest/gtest.h>
 
