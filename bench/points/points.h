@@ -2,32 +2,13 @@
 // Point sets for benchmarks.
 #pragma once
 
-#include <string_view>
-
 #include "arith/ring_in_force.h"
-#include "base/reporter.h"
 #include "linalg/matrix.h"
 #include "points/ring/order_ideal.h"
 #include "points/walk/buchberger_moeller.h"
+#include "tests/told.h"
 
 namespace zep::tests {
-
-// Listens to nothing, as when the terminal is quiet.
-class inattentive : public reporter {
- public:
-  bool is_attentive() const override { return false; }
-  void say(std::string_view /*words*/) override {}
-  void count(int /*remaining*/) override {}
-  void end_of_count() override {}
-  void end_of_computation() override {}
-  void mark() override {}
-  void advance(int /*remaining*/) override {}
-};
-
-inline reporter& nobody() {
-  static inattentive listener;
-  return listener;
-}
 
 // F_p and P^n with the term order of the beginning.
 inline ring ring_of(int p, int n) { return {.p = p, .n = n}; }

@@ -38,6 +38,9 @@ inline row row_of(const std::vector<int>& values) {
   return elements;
 }
 
+// The elements that a view looks at.
+inline row elements_of(const_row_view view) { return {view.begin(), view.end()}; }
+
 // The points as rows of the space in force.
 inline matrix rows_of(const std::vector<coordinates>& points) {
   matrix P(dim, static_cast<int>(points.size()));

@@ -17,7 +17,7 @@ constexpr awaited at_command = awaited::command;
 constexpr awaited at_filename = awaited::file_name;
 
 bool offers(const completions& found, const std::string& word) {
-  return std::ranges::find(found.words, word) != found.words.end();
+  return std::find(found.words.begin(), found.words.end(), word) != found.words.end();
 }
 
 class Completion : public testing::Test {

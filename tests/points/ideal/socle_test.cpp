@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 
 #include "points/ideal/artinian_forms.h"
 #include "tests/points/plain_artinian.h"
@@ -233,7 +234,7 @@ TEST(SocleProperty, EliminationHasNoEquationsForVariablesOutsideO) {
     // In a hyperplane, which has ten monomials of degree up to 2.
     std::vector<coordinates> points = random_points(11, random);
     for (coordinates& point : points) point[3] = (point[0] + 2 * point[1] + 3 * point[2]) % 101;
-    EXPECT_EQ(plain_artinian(points).members(1).size(), 3);
+    EXPECT_EQ(std::ssize(plain_artinian(points).members(1)), 3);
     EXPECT_GT(ties_among_expected_elements(points), 0);
   }
 }

@@ -37,7 +37,7 @@ TEST(GroebnerBasis, HandsOutItsElements) {
   const groebner_basis Ix({variable(0), monomial({0, 3})}, {row_of({0, -2}), row_of({0, 2, -3})});
   ASSERT_EQ(Ix.no_of_gens(), 2);
   EXPECT_EQ(Ix.lead(1), monomial({0, 3}));
-  EXPECT_TRUE(std::ranges::equal(Ix.tail(0), row_of({0, -2})));
+  EXPECT_EQ(elements_of(Ix.tail(0)), row_of({0, -2}));
   EXPECT_EQ(printed(Ix.gen(0, O)), "X-2Y");
   EXPECT_EQ(printed(Ix.gen(1, O)), "Y3-3Y2+2Y");
 }

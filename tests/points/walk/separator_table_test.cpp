@@ -78,7 +78,8 @@ TEST(SeparatorTable, SurvivesRowsWithoutInversesInACompositeCharacteristic) {
   separator_table table(3);
   const auto verdicts = table.take({row_of({2, 4, 0}), row_of({3, 3, 3}), row_of({1, 5, 2}),
                                     row_of({5, 1, 1}), row_of({4, 4, 3})});
-  EXPECT_LE(std::ranges::count(joined(verdicts), true), 3);
+  const auto found = joined(verdicts);
+  EXPECT_LE(std::count(found.begin(), found.end(), true), 3);
 }
 
 // Rows of values of which every third or so depends on those before.
@@ -105,9 +106,9 @@ std::vector<separator_table::verdict> take_in_batches(separator_table& table, co
   std::vector<separator_table::verdict> all;
   for (std::size_t i = 0; i < values.size(); i += batch) {
     const std::size_t end = std::min(values.size(), i + batch);
-    std::ranges::move(table.take({values.begin() + static_cast<std::ptrdiff_t>(i),
-                                  values.begin() + static_cast<std::ptrdiff_t>(end)}),
-                      std::back_inserter(all));
+    auto taken = table.take({values.begin() + static_cast<std::ptrdiff_t>(i),
+                             values.begin() + static_cast<std::ptrdiff_t>(end)});
+    std::move(taken.begin(), taken.end(), std::back_inserter(all));
   }
   return all;
 }
