@@ -99,7 +99,7 @@ void separator_table::reduce(std::span<const reduced_row> rows,
   std::vector<const_row_view> subtracted;
   reduced.reserve(rows.size());
   subtracted.reserve(by.size());
-  for (const reduced_row& f : by) subtracted.push_back(f.elements);
+  for (const reduced_row& f : by) subtracted.emplace_back(f.elements);
   for (const reduced_row& t : rows) {
     heed_interrupt();
     const row_view c = coefficients[static_cast<int>(reduced.size())];

@@ -16,6 +16,7 @@ namespace {
 // A list of numbers that sorts as the monomial does.
 std::vector<int> affine_key(const monom& m, term_order order) {
   std::vector<int> key;
+  key.reserve(proj);
   for (int i = 0; i < proj - 1; ++i) key.push_back(m.exp(i));
   int degree = 0;
   for (const int e : key) degree += e;

@@ -26,7 +26,7 @@ class plane {
 
   std::string quietly(const std::string& command) {
     type("quiet\n");
-    const std::string text = type(command + "\n").out;
+    std::string text = type(command + "\n").out;
     type("verbose\n");
     return text;
   }
