@@ -15,6 +15,7 @@ namespace {
 command_line read(std::vector<std::string> words) {
   words.insert(words.begin(), "zep");
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   const captured out(std::cout);

@@ -46,7 +46,8 @@ TEST(Workspace, LeavesTheRingBeforeItInForceWhateverCommandsHaveChanged) {
 TEST(Workspace, MayLiveInAnother) {
   workspace outer;
   type_in(outer, "char 251\ndim 4\ndeglex\nrandom A 3\nquiet\n");
-  const ring of_outer = current_ring();
+  const ring of_outer{251, 4, default_names, term_order::deglex};
+  EXPECT_EQ(current_ring(), of_outer);
   expect_in_force({251, 4, default_names, term_order::deglex});
   {
     workspace inner;
