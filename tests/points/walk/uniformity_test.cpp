@@ -20,16 +20,11 @@ matrix beta_of(const std::vector<coordinates>& points) {
 
 // Which of k are dependent, and what is told of the search.
 struct search {
-  search(const std::vector<coordinates>& points, int k) {
-    told reporter;
-    found = dependent_separators(beta_of(points), k, reporter);
-    out = reporter.out;
-    err = reporter.err;
-  }
+  search(const std::vector<coordinates>& points, int k)
+      : found(dependent_separators(beta_of(points), k, reporter)) {}
 
+  told reporter;
   dependence found;
-  std::string out;
-  std::string err;
 };
 
 const std::vector<coordinates> triangle = {{0, 0}, {1, 0}, {0, 1}};
@@ -68,17 +63,17 @@ TEST(DependentSeparators, AreTheFirstZeroRowForOne) {
 
 TEST(DependentSeparators, TellHowFarTheLastPointHasCome) {
   const ring_in_force ring(101, 2);
-  EXPECT_EQ(search(triangle, 1).out, "[3][2][1]");
-  EXPECT_EQ(search(triangle, 2).out, "[2][1]");
-  EXPECT_EQ(search(two_lines, 1).out, "[5][4][3][2][1]");
-  EXPECT_EQ(search(two_lines, 2).out, "[4]");
-  EXPECT_EQ(search(two_lines, 2).err, "");
+  EXPECT_EQ(search(triangle, 1).reporter.out, "[3][2][1]");
+  EXPECT_EQ(search(triangle, 2).reporter.out, "[2][1]");
+  EXPECT_EQ(search(two_lines, 1).reporter.out, "[5][4][3][2][1]");
+  EXPECT_EQ(search(two_lines, 2).reporter.out, "[4]");
+  EXPECT_EQ(search(two_lines, 2).reporter.err, "");
 }
 
 TEST(DependentSeparators, TellNothingWhenTheFirstOnesDepend) {
   const ring_in_force ring(101, 2);
   const search first({{1, 0}, {2, 0}, {0, 0}, {0, 1}, {0, 2}}, 2);
-  EXPECT_EQ(first.out + first.err, "");
+  EXPECT_EQ(first.reporter.out + first.reporter.err, "");
 }
 
 TEST(DependentSeparators, AreNeverNoneAtAll) {
@@ -86,7 +81,7 @@ TEST(DependentSeparators, AreNeverNoneAtAll) {
   for (const auto& points : {std::vector<coordinates>(), triangle, two_lines}) {
     const search nothing(points, 0);
     EXPECT_EQ(nothing.found, std::nullopt);
-    EXPECT_EQ(nothing.out + nothing.err, "");
+    EXPECT_EQ(nothing.reporter.out + nothing.reporter.err, "");
   }
 }
 
