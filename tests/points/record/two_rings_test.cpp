@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "points/record/scheme.h"
 #include "tests/points/computing.h"
 #include "tests/points/everything.h"
@@ -12,7 +14,7 @@ namespace {
 // A ring with a set of its space. Everything about the set is done with the ring in force.
 class set_of_a_ring {
  public:
-  set_of_a_ring(const arith::ring& R, const std::vector<coordinates>& points) : ring_(R) {
+  set_of_a_ring(arith::ring R, const std::vector<coordinates>& points) : ring_(std::move(R)) {
     const arith::ring_in_force in_force(ring_);
     set_ = std::make_unique<told_set>(points);
   }
