@@ -123,9 +123,10 @@ matrix relation_matrix(const order_ideal& X, const canonical_forms& forms,
   stretch border{0, 0};
   for (stretch elements{0, 0}; elements.end < n;) {
     const int d = X.Ix.lead(elements.end).tot_deg();
-    elements = of_degree(d, elements.end, n, [&](int g) { return X.Ix.lead(g); });
+    elements = of_degree(d, elements.end, n, [&](int g) -> const monom& { return X.Ix.lead(g); });
     while (X.B[border.end].tot_deg() < d) ++border.end;
-    border = of_degree(d, border.end, X.no_of_border(), [&](int b) { return X.B[b]; });
+    border =
+        of_degree(d, border.end, X.no_of_border(), [&](int b) -> const monom& { return X.B[b]; });
     const row_space constants = constants_of_degree(X, forms, elements, border, by_degree[d]);
     rank += constants.rank();
     blocks.emplace_back(elements.begin, constants.basis());
