@@ -11,8 +11,8 @@
 
 int main(int argc, char** argv) {
   zep::front::prepare_process();
-  std::ios::sync_with_stdio(false);
   zep::front::install_mem_warn();
+  std::ios::sync_with_stdio(false);
   int status = 0;
   try {
     const zep::front::command_line line = zep::front::read_command_line(argc, argv);

@@ -41,7 +41,7 @@ squeeze() {
   local limit status err
   rm -f whole part result
   printf 'quiet\n%s\n%s A whole\nputlinid A part\n' "$1" "$2" | "$zep" >/dev/null 2>&1
-  for ((limit = least; limit <= least + 16000; limit += 500)); do
+  for ((limit = least; limit <= least + 12000; limit += 250)); do
     rm -f result
     status=0
     err=$(printf 'quiet\n%s\n%s A result\n' "$1" "$2" |

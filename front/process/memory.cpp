@@ -5,9 +5,9 @@
 #include <gmp.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <iostream>
 #include <new>
 
 #include "front/files/files.h"
@@ -34,7 +34,8 @@ void* reallocate(void* old, std::size_t old_size, std::size_t size) {
 
 void mem_warn() {
   result_file::abandon();
-  std::cerr << "\nNew: can't allocate enough memory\n";
+  // Memory may end while the standard streams are still set up.
+  std::fputs("\nNew: can't allocate enough memory\n", stderr);
   std::exit(exhausted);
 }
 
