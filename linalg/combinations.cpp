@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 #include "base/interrupt.h"
@@ -20,8 +21,8 @@ namespace {
 class tiled_product {
  public:
   // There are rows in c.
-  tiled_product(std::span<const row_view> c, const matrix& a, std::span<const const_row_view> b,
-                tile_kernel* kernel)
+  tiled_product(std::span<const row_view> c, std::span<const const_row_view> a,
+                std::span<const const_row_view> b, tile_kernel* kernel)
       : c_(c),
         a_(a),
         b_(b),
@@ -48,7 +49,7 @@ class tiled_product {
     for (std::size_t i = 0; i < c_.size(); ++i) {
       const std::size_t in_tile = i % tile_rows;
       std::int16_t* const to = packed_a_.data() + (i - in_tile) * products_in_a_tile + 2 * in_tile;
-      const const_row_view row = a_[static_cast<int>(i)].subspan(first_, length_);
+      const const_row_view row = a_[i].subspan(first_, length_);
       for (std::size_t k = 0; k < length_; ++k) {
         to[k / 2 * 2 * tile_rows + k % 2] = row[k].value();
       }
@@ -68,11 +69,20 @@ class tiled_product {
     }
   }
 
-  static void interleave(std::int16_t* to, const Fp8* even, const Fp8* odd) {
+  // By way of arrays that nothing else can point into, and out of line: only then do compilers make
+  // a few vector instructions of it.
+  [[gnu::noinline]] static void interleave(std::int16_t* to, const Fp8* even, const Fp8* odd) {
+    std::array<std::uint8_t, tile_cols> evens{};
+    std::array<std::uint8_t, tile_cols> odds{};
+    constexpr std::size_t width = 2 * tile_cols;
+    std::array<std::int16_t, width> both{};
+    std::memcpy(evens.data(), even, tile_cols);
+    std::memcpy(odds.data(), odd, tile_cols);
     for (std::size_t y = 0; y < tile_cols; ++y) {
-      to[2 * y] = even[y].value();
-      to[2 * y + 1] = odd[y].value();
+      both[2 * y] = evens[y];
+      both[2 * y + 1] = odds[y];
     }
+    std::memcpy(to, both.data(), sizeof both);
   }
 
   // There may be no odd row, and less than a whole tile.
@@ -105,7 +115,7 @@ class tiled_product {
   }
 
   std::span<const row_view> c_;
-  const matrix& a_;
+  std::span<const const_row_view> a_;
   std::span<const const_row_view> b_;
   std::size_t n_;
   tile_kernel* kernel_;
@@ -120,21 +130,44 @@ class tiled_product {
 // add_combinations, with AVX2.
 constexpr std::size_t least_worth_packing = 16;
 
+// Adding a multiple of a row takes less than twice the time of a product in a tile, an element.
+// So rows of coefficients with more zeros than that are not worth a tile.
+constexpr std::size_t zeros_worth_looking = 4;
+
+std::size_t no_of_nonzero(const_row_view s) {
+  return s.size() - static_cast<std::size_t>(std::count(s.begin(), s.end(), Fp8(0)));
+}
+
+void add_combination(row_view c, const_row_view a, std::span<const const_row_view> b) {
+  for (std::size_t k = 0; k < b.size(); ++k) {
+    if (a[k] == 0) continue;
+    heed_interrupt();
+    axpy(c, b[k], a[k]);
+  }
+}
+
 }  // namespace
 
 void add_combinations(std::span<const row_view> c, const matrix& a,
                       std::span<const const_row_view> b) {
   tile_kernel* const add_to_tile = kernels_in_force::get().add_to_tile;
-  if (add_to_tile != nullptr && std::min(c.size(), b.size()) >= least_worth_packing) {
-    tiled_product(c, a, b, add_to_tile).add();
-    return;
-  }
+  const bool in_tiles = add_to_tile != nullptr && b.size() >= least_worth_packing;
+  std::vector<row_view> tiled_c;
+  std::vector<const_row_view> tiled_a;
   for (std::size_t i = 0; i < c.size(); ++i) {
-    for (std::size_t k = 0; k < b.size(); ++k) {
-      heed_interrupt();
-      axpy(c[i], b[k], a[static_cast<int>(i)][k]);
+    const const_row_view coefficients = a[static_cast<int>(i)];
+    if (in_tiles && no_of_nonzero(coefficients) * zeros_worth_looking > b.size()) {
+      tiled_c.push_back(c[i]);
+      tiled_a.push_back(coefficients);
+    } else {
+      add_combination(c[i], coefficients, b);
     }
   }
+  if (tiled_c.size() >= least_worth_packing) {
+    tiled_product(tiled_c, tiled_a, b, add_to_tile).add();
+    return;
+  }
+  for (std::size_t i = 0; i < tiled_c.size(); ++i) add_combination(tiled_c[i], tiled_a[i], b);
 }
 
 }  // namespace zep::linalg

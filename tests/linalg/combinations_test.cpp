@@ -72,6 +72,32 @@ void expect_plain_sums(rows c, const matrix& a, rows b, std::size_t n, std::size
   ASSERT_TRUE(c == expected) << c.size() << " rows of " << n << ", " << b.size() << " summands";
 }
 
+// Coefficients that are mostly zero in some rows, all zero in others, and anything in the rest:
+// each kind has its own way through.
+matrix random_matrix_with_sparse_rows(std::mt19937& random, std::size_t r, std::size_t c) {
+  matrix m = random_matrix(random, r, c);
+  for (int i = 0; i < m.rows(); ++i) {
+    const int kept = below(random, 4) == 0 ? m.cols() : m.cols() * below(random, 3) / 5;
+    for (int j = 0; j < m.cols(); ++j) {
+      if (below(random, m.cols()) >= kept) m[i][j] = 0;
+    }
+  }
+  return m;
+}
+
+TEST_P(Combinations, AreThePlainSumsWhereManyCoefficientsAreZero) {
+  std::mt19937 random(5);
+  for (const int p : {2, 101, 251}) {
+    const ring_in_force ring(p);
+    for (const std::size_t k : {15U, 16U, 40U, 300U}) {
+      for (const std::size_t m : {1U, 16U, 70U}) {
+        expect_plain_sums(random_rows(random, m, 50), random_matrix_with_sparse_rows(random, m, k),
+                          random_rows(random, k, 50), 50);
+      }
+    }
+  }
+}
+
 TEST_P(Combinations, AreThePlainSumsAroundTheSizesOfATile) {
   std::mt19937 random(1);
   for (const int p : {2, 3, 101, 128, 250, 251}) {

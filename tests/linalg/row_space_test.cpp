@@ -96,6 +96,117 @@ TEST(RowSpace, OfNothingIsZero) {
   EXPECT_FALSE(narrow.add({}));
 }
 
+std::vector<row> rows_of(const matrix& m) {
+  std::vector<row> rows;
+  for (int i = 0; i < m.rows(); ++i) rows.emplace_back(m[i].begin(), m[i].end());
+  return rows;
+}
+
+// The rows, each with its unit row as tail.
+std::vector<row> with_unit_tails(const matrix& m) {
+  std::vector<row> rows = rows_of(m);
+  const std::size_t n = rows.size();
+  for (std::size_t i = 0; i < n; ++i) {
+    rows[i].resize(rows[i].size() + n);
+    rows[i][rows[i].size() - n + i] = 1;
+  }
+  return rows;
+}
+
+// The row is the combination of the rows of m that its tail tells, and fault times more.
+void expect_combination_told_by_tail(const_row_view r, const matrix& m, const row& fault) {
+  row sum = fault;
+  for (int i = 0; i < m.rows(); ++i) {
+    for (int j = 0; j < m.cols(); ++j) sum[j] += r[m.cols() + i] * m[i][j];
+  }
+  EXPECT_TRUE(std::equal(sum.begin(), sum.end(), r.begin()));
+}
+
+struct large_matrix {
+  int p;
+  int cols;
+  int rows;
+  int rank_bound;
+};
+
+// Ranks on either side of the sizes at which rows are put together.
+const std::vector<large_matrix> large_matrices = {
+    {2, 90, 120, 70}, {3, 31, 40, 31}, {101, 33, 40, 32}, {101, 70, 90, 65}, {251, 350, 400, 340}};
+
+TEST(RowSpace, TakesManyRowsAtOnceAsOneByOne) {
+  std::mt19937 random(5);
+  for (const auto& [p, cols, rows, bound] : large_matrices) {
+    const ring_in_force ring(p);
+    const matrix m = rows_of_low_rank(cols, rows, bound, random);
+    row_space one_by_one(cols);
+    std::vector<bool> raises;
+    for (row& r : rows_of(m)) raises.push_back(one_by_one.add(std::move(r)));
+    for (const int block : {7, 64, rows}) {
+      row_space space(cols);
+      std::vector<bool> independent;
+      const std::vector<row> all = rows_of(m);
+      for (int i = 0; i < rows; i += block) {
+        const std::vector<bool> found =
+            space.add_rows({all.begin() + i, all.begin() + std::min(i + block, rows)});
+        independent.insert(independent.end(), found.begin(), found.end());
+      }
+      EXPECT_EQ(independent, raises);
+      EXPECT_EQ(space.pivots(), one_by_one.pivots());
+      EXPECT_EQ(space.basis(), one_by_one.basis());
+      for (int j = 0; j < space.rank(); ++j) EXPECT_EQ(space.lead(j), one_by_one.lead(j));
+    }
+    EXPECT_EQ(one_by_one.rank(), rank(m));
+  }
+}
+
+TEST(RowSpace, LetsTailsTellHowRowsCame) {
+  std::mt19937 random(6);
+  for (const auto& [p, cols, rows, bound] : large_matrices) {
+    const ring_in_force ring(p);
+    const matrix m = rows_of_low_rank(cols, rows, bound, random);
+    row_space space(cols, rows);
+    space.add_rows(with_unit_tails(m));
+    for (int j = 0; j < space.rank(); ++j) {
+      expect_combination_told_by_tail(space[j], m, row(static_cast<std::size_t>(cols)));
+    }
+  }
+}
+
+TEST(RowSpace, ReducesRowsToZeroAtAllPivots) {
+  std::mt19937 random(7);
+  for (const auto& [p, cols, rows, bound] : large_matrices) {
+    const ring_in_force ring(p);
+    const matrix m = rows_of_low_rank(cols, rows, bound, random);
+    row_space space(cols, rows);
+    space.add_rows(with_unit_tails(m));
+    row r(static_cast<std::size_t>(cols) + static_cast<std::size_t>(rows));
+    for (int j = 0; j < cols; ++j) r[j] = below(random, p);
+    const row before(r.begin(), r.begin() + cols);
+    const std::vector<row_view> only = {r};
+    space.reduce(only);
+    for (const std::size_t pivot : space.pivots()) EXPECT_EQ(r[pivot], 0);
+    expect_combination_told_by_tail(r, m, before);
+  }
+}
+
+TEST(RowSpace, HasAReducedEchelonForm) {
+  std::mt19937 random(8);
+  for (const auto& [p, cols, rows, bound] : large_matrices) {
+    const ring_in_force ring(p);
+    const matrix m = rows_of_low_rank(cols, rows, bound, random);
+    row_space space(cols, rows);
+    space.add_rows(with_unit_tails(m));
+    const std::vector<row> reduced = space.reduced();
+    ASSERT_EQ(std::ssize(reduced), space.rank());
+    for (int i = 0; i < space.rank(); ++i) {
+      expect_combination_told_by_tail(reduced[i], m, row(static_cast<std::size_t>(cols)));
+      for (int j = 0; j < space.rank(); ++j) {
+        EXPECT_EQ(reduced[i][space.pivots()[j]], i == j ? 1 : 0);
+      }
+    }
+  }
+}
+
 // What `min_Ix` relies on: leaving out dependent rows changes neither result nor column order, as
 // long as the steps are counted as if they were there.
 TEST(RowSpace, StandsForAllRowsInSolve) {
