@@ -3,56 +3,20 @@
 #include "points/ideal/minimal_generators.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 #include <vector>
 
 #include "base/interrupt.h"
 #include "base/paranoid.h"
+#include "linalg/column_choice.h"
 #include "linalg/row_space.h"
+#include "points/ideal/neighbour_pairs.h"
 #include "points/ring/border_relations.h"
 
 namespace zep::points {
 
 namespace {
-
-// Two border monomials P * x_a and P * x_b, divisible by the leading monomials of two Groebner
-// basis elements; P, the member of O at this position, times x_a * x_b is their least common
-// multiple.
-struct neighbours {
-  int position;
-  int a;
-  int b;
-};
-
-// The last slot in which s has the larger exponent, or -1.
-int last_larger_slot(const monom& s, const monom& t) {
-  int slot = -1;
-  for (int i = 0; i < s.dim(); ++i) {
-    if (s.exp(i) > t.exp(i)) slot = i;
-  }
-  return slot;
-}
-
-std::vector<neighbours> neighbour_pairs(const order_ideal& X) {
-  std::vector<neighbours> pairs;
-  const int n = X.Ix.no_of_gens();
-  for (int i = 0; i < n; ++i) {
-    heed_interrupt();
-    const monom& s = X.Ix.lead(i);
-    for (int j = i + 1; j < n; ++j) {
-      const monom& t = X.Ix.lead(j);
-      monom P = lcm(s, t);
-      const int a = last_larger_slot(s, t);
-      const int b = last_larger_slot(t, s);
-      if (a < 0 || b < 0 || P.tot_deg() - 2 > X.H.sigma + 1) continue;
-      P.set_exp(a, P.exp(a) - 1);
-      P.set_exp(b, P.exp(b) - 1);
-      const int position = is_el_OO(X, P);
-      if (position >= 0) pairs.push_back({position, a, b});
-    }
-  }
-  return pairs;
-}
 
 // The border of the Artinian reduction, as border_relations wants it. The border form of b is B[b]
 // minus its canonical form.
@@ -78,6 +42,8 @@ class artinian_border {
   const canonical_forms& forms_;
 };
 
+using relations_of_degree = border_relations<artinian_border>;
+
 // The part of an ascending list that has one degree, from `begin` up to `end`.
 struct stretch {
   int begin;
@@ -92,34 +58,76 @@ stretch of_degree(int d, int begin, int n, Monomial monomial) {
   return {begin, end};
 }
 
-// The constants in the relations of neighbours of one degree, over the basis elements of the
-// degree.
-row_space constants_of_degree(const order_ideal& X, const canonical_forms& forms, stretch elements,
-                              stretch border, const std::vector<neighbours>& pairs) {
-  std::vector<int> leading;
-  for (int g = elements.begin; g < elements.end; ++g) leading.push_back(is_el_B(X, X.Ix.lead(g)));
-  const artinian_border B(X, forms);
-  const border_relations relations(B, leading, border.begin, border.end);
-  row_space constants(elements.end - elements.begin);
-  for (const neighbours& pair : pairs) {
-    constants.add(relations.relation(forms.times(pair.position, pair.a).position, pair.b,
-                                     forms.times(pair.position, pair.b).position, pair.a));
+// Relations are taken so many at a time: enough for long combinations of rows, few against those
+// that are not looked at when all elements are superfluous already.
+constexpr std::size_t batch = 256;
+
+// What the constants in all relations of degree d span, over `size` basis elements.
+row_space space_of_constants(const canonical_forms& forms, const relations_of_degree& relations,
+                             int d, int size) {
+  row_space constants(size);
+  std::vector<relations_of_degree::pair> pairs;
+  const auto take = [&] {
+    constants.add_rows(relations.relations(pairs));
+    pairs.clear();
+  };
+  for (int P = forms.begin(d - 2); P < forms.begin(d - 1); ++P) {
+    for (int b = 1; b < dim; ++b) {
+      const auto [b_in_O, with_b] = forms.times(P, b);
+      for (int a = 0; a < b && !b_in_O; ++a) {
+        const auto [a_in_O, with_a] = forms.times(P, a);
+        if (!a_in_O) pairs.push_back({with_a, b, with_b, a});
+      }
+    }
+    if (pairs.size() >= batch) take();
+    if (constants.rank() == size) return constants;
   }
+  take();
   return constants;
 }
 
-// The relations' constants, one row for each pair of neighbours, but dependent rows left out. In a
-// thing of degree d only elements of degree d occur with constants, and these stand together.
-matrix relation_matrix(const order_ideal& X, const canonical_forms& forms,
-                       const std::vector<neighbours>& pairs) {
-  const int n = X.Ix.no_of_gens();
-  // Members of O reach degree sigma + 1, relations two more.
-  std::vector<std::vector<neighbours>> by_degree(X.H.sigma + 4);
-  for (const neighbours& pair : pairs) {
-    by_degree[X.O[pair.position].tot_deg() + 2].push_back(pair);
+// The superfluous elements among those of one degree, from element `begin` on: the columns of the
+// relations' constants, from the last element to the first. Most are asked for in that order, and
+// pivots that come first cost nothing.
+class elements_of_degree {
+ public:
+  elements_of_degree(const order_ideal& X, const canonical_forms& forms, stretch elements,
+                     stretch border)
+      : begin_(elements.begin), size_(elements.end - elements.begin), columns_(0, {}, {}) {
+    std::vector<int> leading;
+    for (int g = elements.end - 1; g >= elements.begin; --g) {
+      leading.push_back(is_el_B(X, X.Ix.lead(g)));
+    }
+    const artinian_border B(X, forms);
+    const relations_of_degree relations(B, leading, border.begin, border.end);
+    const row_space constants =
+        space_of_constants(forms, relations, X.Ix.lead(begin_).tot_deg(), size_);
+    rank_ = constants.rank();
+    if (0 < rank_ && rank_ < size_) {
+      columns_ = column_choice(size_, constants.reduced(), constants.pivots());
+    }
   }
-  std::vector<std::pair<int, matrix>> blocks;
-  int rank = 0;
+
+  int begin() const { return begin_; }
+
+  // Leaves out element g if it is superfluous besides those that have been left out; false if not.
+  bool leave_out(int g) {
+    if (rank_ == 0 || rank_ == size_) return rank_ == size_;
+    return columns_.choose(begin_ + size_ - 1 - g);
+  }
+
+ private:
+  int begin_;
+  int size_;
+  int rank_;
+  column_choice columns_;
+};
+
+// In a thing of degree d only elements of degree d occur with constants, and these stand together.
+std::vector<elements_of_degree> elements_by_degree(const order_ideal& X,
+                                                   const canonical_forms& forms) {
+  const int n = X.Ix.no_of_gens();
+  std::vector<elements_of_degree> degrees;
   stretch border{0, 0};
   for (stretch elements{0, 0}; elements.end < n;) {
     const int d = X.Ix.lead(elements.end).tot_deg();
@@ -127,41 +135,44 @@ matrix relation_matrix(const order_ideal& X, const canonical_forms& forms,
     while (X.B[border.end].tot_deg() < d) ++border.end;
     border =
         of_degree(d, border.end, X.no_of_border(), [&](int b) -> const monom& { return X.B[b]; });
-    const row_space constants = constants_of_degree(X, forms, elements, border, by_degree[d]);
-    rank += constants.rank();
-    blocks.emplace_back(elements.begin, constants.basis());
+    degrees.emplace_back(X, forms, elements, border);
   }
-  matrix N(n, rank);
-  int next = 0;
-  for (const auto& [first, block] : blocks) {
-    for (int i = 0; i < block.rows(); ++i) {
-      std::copy(block[i].begin(), block[i].end(), N[next++].begin() + first);
-    }
-  }
-  return N;
+  return degrees;
 }
 
-// The basis elements that make a minimal system, ascending by degree; of equal degrees those come
-// first that stand first, but each choice moves the last candidate into the place of the chosen.
-std::vector<int> minimal_elements(const order_ideal& X, const canonical_forms& forms) {
+// The basis elements that make a minimal system, in the order in which solving the system of all
+// relations' constants leaves the unknowns that are free. It takes as many steps as there are rows,
+// one for each pair of neighbours, and that decides which columns are exchanged.
+std::vector<int> needed_elements(const order_ideal& X, const canonical_forms& forms) {
   const int n = X.Ix.no_of_gens();
-  const std::vector<neighbours> pairs = neighbour_pairs(X);
-  matrix N = relation_matrix(X, forms, pairs);
-  std::vector<int> columns = identity_order(n);
-  std::vector<int> rows = identity_order(N.rows());
-  // Dependent rows are not there, but they count: the number of steps decides which columns are
-  // still exchanged when the pivots are found, and so in which order the generators come.
-  const int d = N.solve(columns, rows, std::min(n, static_cast<int>(pairs.size())));
-  std::vector<int> candidates(columns.end() - d, columns.end());
+  std::vector<elements_of_degree> degrees = elements_by_degree(X, forms);
+  return free_columns(n, neighbour_pairs(X, forms, n), [&](int g) {
+    const auto above =
+        std::upper_bound(degrees.begin(), degrees.end(), g,
+                         [](int i, const elements_of_degree& E) { return i < E.begin(); });
+    return std::prev(above)->leave_out(g);
+  });
+}
+
+// Ascending by degree; of equal degrees those come first that stand first, but each choice moves
+// the last candidate into the place of the chosen.
+std::vector<int> ascending(std::vector<int> candidates, const order_ideal& X) {
   std::vector<int> chosen;
+  chosen.reserve(candidates.size());
+  const auto degree = [&](int g) { return X.Ix.lead(g).tot_deg(); };
   while (!candidates.empty()) {
     heed_interrupt();
-    const auto least = std::min_element(candidates.begin(), candidates.end(), [&](int g, int h) {
-      return X.Ix.lead(g).tot_deg() < X.Ix.lead(h).tot_deg();
-    });
-    chosen.push_back(*least);
-    *least = candidates.back();
-    candidates.pop_back();
+    const int least = degree(*std::min_element(
+        candidates.begin(), candidates.end(), [&](int g, int h) { return degree(g) < degree(h); }));
+    for (std::size_t i = 0; i < candidates.size();) {
+      if (degree(candidates[i]) > least) {
+        ++i;
+        continue;
+      }
+      chosen.push_back(candidates[i]);
+      candidates[i] = candidates.back();
+      candidates.pop_back();
+    }
   }
   return chosen;
 }
@@ -169,7 +180,7 @@ std::vector<int> minimal_elements(const order_ideal& X, const canonical_forms& f
 }  // namespace
 
 ideal min_Ix(const order_ideal& X, const canonical_forms& forms) {
-  const std::vector<int> chosen = minimal_elements(X, forms);
+  const std::vector<int> chosen = ascending(needed_elements(X, forms), X);
   ideal generators(static_cast<int>(chosen.size()));
   for (std::size_t m = 0; m < chosen.size(); ++m) {
     heed_interrupt();

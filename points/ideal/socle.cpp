@@ -3,12 +3,15 @@
 #include "points/ideal/socle.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "arith/list.h"
 #include "base/interrupt.h"
 #include "base/paranoid.h"
+#include "linalg/column_choice.h"
+#include "points/ideal/annihilation.h"
 
 namespace zep::points {
 
@@ -26,22 +29,26 @@ class socle_finder {
     }
   }
 
-  // Adds the generators of degree d to the list.
+  // Adds the generators of degree d to the list: the solutions of the system that says that all
+  // variables annihilate them, each 1 at one of the unknowns that solving it leaves free. It has a
+  // column for each candidate, the greatest first, and so many rows for each variable as there are
+  // members of degree d + 1.
   void add_generators(int d, list<polynomial>& generators) const {
     const int last = last_candidate(d);
     const int m = last - R_.begin(d) + 1;
     if (m <= 0) return;
-    matrix system = annihilation(d, last, m);
-    std::vector<int> columns = identity_order(m);
-    std::vector<int> rows = identity_order(system.rows());
-    const int found = system.solve(columns, rows);
-    for (int v = 0; v < found; ++v) {
+    std::optional<column_choice> system = annihilation(R_, variables_, d, m);
+    if (!system) return;
+    const int rows = static_cast<int>(variables_.size()) * R_.dimension(d + 1);
+    std::vector<int> free_ones =
+        free_columns(m, std::min(m, rows), [&](int c) { return system->choose(c); });
+    std::reverse(free_ones.begin(), free_ones.end());
+    for (const int free_column : free_ones) {
       heed_interrupt();
-      const int free_column = columns[m - v - 1];
       row element(last + 1);
       element[last - free_column] = 1;
-      for (int q = 0; q < m - found; ++q) {
-        element[last - columns[q]] = -system[rows[q]][free_column];
+      for (int i = 0; i < system->rank(); ++i) {
+        element[last - system->pivot(i)] = -(*system)[i][free_column];
       }
       generators.add(combination(element, O_));
     }
@@ -59,28 +66,6 @@ class socle_finder {
     int k = R_.begin(d + 1) - 1;
     while (k >= R_.begin(d) && !is_maximal(k)) --k;
     return k;
-  }
-
-  // Column c belongs to the candidate O[last - c], and there is a block of rows for each variable:
-  // the products with it, over the members of degree d + 1.
-  matrix annihilation(int d, int last, int m) const {
-    const int height = R_.dimension(d + 1);
-    matrix system(m, static_cast<int>(variables_.size()) * height);
-    for (int c = 0; c < m; ++c) {
-      heed_interrupt();
-      int block = 0;
-      for (const int v : variables_) {
-        const auto [in_O, position] = R_.times(last - c, v);
-        if (in_O) {
-          system[block + position - R_.begin(d + 1)][c] = 1;
-        } else {
-          const const_row_view form = R_.form(position);
-          for (int e = 0; e < height; ++e) system[block + e][c] = form[e];
-        }
-        block += height;
-      }
-    }
-    return system;
   }
 
   const std::vector<monom>& O_;

@@ -19,11 +19,15 @@
 // is.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <span>
 #include <utility>
 #include <vector>
 
 #include "base/interrupt.h"
+#include "linalg/combinations.h"
+#include "linalg/matrix.h"
 #include "linalg/row_operations.h"
 
 namespace zep::points {
@@ -34,56 +38,122 @@ namespace zep::points {
 // A Border tells
 //     origin(b)                            a border element and a variable, {below, v}, with
 //                                          b = x_v * below; below is -1 for none
-//     for_each_border_product(b, v, use)   calls use(c, i) for the border elements i in x_v *
-//     form(b)
-//                                          with their coefficients c, modulo X_0
+//     for_each_border_product(b, v, use)   calls use(c, i) for the border elements i in
+//                                          x_v * form(b) with their coefficients c, modulo X_0
 template <class Border>
 class border_relations {
  public:
   // The border elements of the degree are those from `first` up to, but not including, `end`. The
   // border must outlive this.
   border_relations(const Border& border, const std::vector<int>& leading, int first, int end)
-      : border_(border), size_(leading.size()), first_(first), lead_(end - first, -1) {
-    for (std::size_t i = 0; i < size_; ++i) lead_[leading[i] - first] = static_cast<int>(i);
-    constants_.reserve(lead_.size());
+      : border_(border), size_(leading.size()), first_(first), place_(end - first) {
+    for (place& at : place_) at = {false, -1};
+    for (std::size_t i = 0; i < size_; ++i) {
+      place_[leading[i] - first] = {true, static_cast<int>(i)};
+    }
+    std::vector<int> others;
     for (int b = first; b < end; ++b) {
-      heed_interrupt();
-      constants_.push_back(of_border(b));
+      place& at = place_[b - first];
+      if (at.leads) continue;
+      at.position = static_cast<int>(others.size());
+      others.push_back(b);
+    }
+    constants_.assign(others.size(), row(size_));
+    for (std::size_t i = 0; i < others.size(); i += batch) {
+      set_constants(std::span(others).subspan(i, std::min(batch, others.size() - i)), i);
     }
   }
 
-  // The constants in x_w * a - x_v * b for border elements a = x_v * P and b = x_w * P of the
-  // degree before. Those elements themselves cancel, and their forms are left.
+  // Border elements a = x_v * P and b = x_w * P of the degree before, and these variables.
+  struct pair {
+    int a;
+    int w;
+    int b;
+    int v;
+  };
+
+  // The constants in x_w * a - x_v * b. The border elements x_v * x_w * P cancel, and the forms of
+  // a and b are left.
   row relation(int a, int w, int b, int v) const {
     row constants(size_);
-    add_products(constants, a, w, Fp8(1));
-    add_products(constants, b, v, -Fp8(1));
+    const auto subtract_others = [&](Fp8 c, int i) { axpy(constants, constants_[i], c); };
+    add_products(constants, a, w, Fp8(1), subtract_others);
+    add_products(constants, b, v, -Fp8(1), subtract_others);
+    return constants;
+  }
+
+  // The same for many pairs, which is faster than one by one.
+  std::vector<row> relations(std::span<const pair> pairs) const {
+    std::vector<row> constants(pairs.size(), row(size_));
+    matrix multiples(static_cast<int>(constants_.size()), static_cast<int>(pairs.size()));
+    for (std::size_t k = 0; k < pairs.size(); ++k) {
+      heed_interrupt();
+      const auto [a, w, b, v] = pairs[k];
+      const row_view of_others = multiples[static_cast<int>(k)];
+      const auto count = [&](Fp8 c, int i) { of_others[i] += c; };
+      add_products(constants[k], a, w, Fp8(1), count);
+      add_products(constants[k], b, v, -Fp8(1), count);
+    }
+    add_combinations(std::vector<row_view>(constants.begin(), constants.end()), multiples,
+                     std::vector<const_row_view>(constants_.begin(), constants_.end()));
     return constants;
   }
 
  private:
-  row of_border(int b) const {
-    row constants(size_);
-    if (const int i = lead_[b - first_]; i >= 0) {
-      constants[i] = 1;
-    } else if (const auto [below, v] = border_.origin(b); below >= 0) {
-      add_products(constants, below, v, Fp8(1));
+  // So many border elements are worked on together.
+  static constexpr std::size_t batch = 128;
+
+  // Which leading element a border element is, or which of the others.
+  struct place {
+    bool leads;
+    int position;
+  };
+
+  // The constants of these border elements, others from number `before` on. They follow from those
+  // of the others before them, and these are added all at once but for those in the batch.
+  void set_constants(std::span<const int> others, std::size_t before) {
+    matrix multiples(static_cast<int>(before), static_cast<int>(others.size()));
+    matrix in_batch(static_cast<int>(others.size()), static_cast<int>(others.size()));
+    const auto rows = std::span(constants_).subspan(before, others.size());
+    for (std::size_t k = 0; k < others.size(); ++k) {
+      heed_interrupt();
+      const auto [below, v] = border_.origin(others[k]);
+      if (below < 0) continue;
+      const row_view earlier = multiples[static_cast<int>(k)];
+      const row_view late = in_batch[static_cast<int>(k)];
+      add_products(rows[k], below, v, Fp8(1), [&](Fp8 c, int i) {
+        const auto other = static_cast<std::size_t>(i);
+        (other < before ? earlier[other] : late[other - before]) += c;
+      });
     }
-    return constants;
+    const auto known = std::span<const row>(constants_).first(before);
+    add_combinations(std::vector<row_view>(rows.begin(), rows.end()), multiples,
+                     std::vector<const_row_view>(known.begin(), known.end()));
+    for (std::size_t k = 0; k < others.size(); ++k) {
+      heed_interrupt();
+      for (std::size_t i = 0; i < k; ++i) axpy(rows[k], rows[i], in_batch[static_cast<int>(k)][i]);
+    }
   }
 
-  // Adds c times the constants of x_v * form(b).
-  void add_products(row& constants, int b, int v, Fp8 c) const {
-    border_.for_each_border_product(b, v, [&](Fp8 coef, int position) {
-      axpy(constants, constants_[position - first_], c * coef);
+  // Adds c times the constants of x_v * form(b) as far as they stand at leading elements. Calls
+  // use_other(c, i) for the other border elements in it, by their number among these.
+  template <class Use>
+  void add_products(row_view constants, int b, int v, Fp8 c, Use use_other) const {
+    border_.for_each_border_product(b, v, [&](Fp8 coef, int border) {
+      const auto [leads, position] = place_[border - first_];
+      if (leads) {
+        constants[position] += c * coef;
+      } else {
+        use_other(c * coef, position);
+      }
     });
   }
 
   const Border& border_;
   std::size_t size_;
   int first_;
-  // The leading element that border element first_ + i is, by its number among these, or -1.
-  std::vector<int> lead_;
+  std::vector<place> place_;
+  // Those of the others, in their order.
   std::vector<row> constants_;
 };
 

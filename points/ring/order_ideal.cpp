@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <stdexcept>
+#include <string>
 #include <utility>
 
 #include "arith/ordering.h"
@@ -28,10 +30,8 @@ std::vector<monom> members(const order_ideal& X) {
   return {X.O.begin(), second_one};
 }
 
-// Results mean something for distinct points over a field; then O is full.
-bool is_meaningful(const order_ideal& X) {
-  return is_prime(Fp8::prime) && static_cast<int>(members(X).size()) == X.s();
-}
+// Then O is full.
+bool are_distinct(const order_ideal& X) { return static_cast<int>(members(X).size()) == X.s(); }
 
 bool ascends(const std::vector<monom>& monomials) {
   return std::adjacent_find(monomials.begin(), monomials.end(), [](const monom& a, const monom& b) {
@@ -95,7 +95,7 @@ void ensure_consistent(const order_ideal& X) {
   ensure("there is one separator for each point", [&] { return X.separator.rows() == X.s(); });
   ensure("a separator is a row over O", [&] { return X.s() == 0 || X.separator.cols() == X.s(); });
   ensure("the separators add up to 1",
-         [&] { return !is_meaningful(X) || add_up_to_one(X.separator); });
+         [&] { return !is_prime(Fp8::prime) || !are_distinct(X) || add_up_to_one(X.separator); });
 }
 
 }  // namespace
@@ -110,6 +110,18 @@ order_ideal::order_ideal(std::vector<monom> members, std::vector<monom> border,
       separator(std::move(separators)) {
   ensure_consistent(*this);
   H = hilbert(O, Ix);
+}
+
+bool is_meaningful(const order_ideal& X) {
+  return X.s() > 0 && is_prime(Fp8::prime) && are_distinct(X);
+}
+
+void require_meaningful(const order_ideal& X) {
+  if (!is_prime(Fp8::prime)) {
+    throw std::invalid_argument(std::to_string(Fp8::prime) + " is not a prime");
+  }
+  if (X.s() == 0) throw std::invalid_argument("there are no points");
+  if (!are_distinct(X)) throw std::invalid_argument("there are equal points");
 }
 
 polynomial groebner_element(const order_ideal& X, int g) { return X.Ix.gen(g, X.O); }

@@ -38,6 +38,11 @@ struct order_ideal {
   hilbert_numbers H;
 };
 
+// Whether results mean something: there are points, no two of them equal, and the characteristic is
+// prime. The other function throws std::invalid_argument, with the reason, unless that is so.
+bool is_meaningful(const order_ideal& X);
+void require_meaningful(const order_ideal& X);
+
 // The Groebner basis element g, 0 <= g < Ix.no_of_gens().
 polynomial groebner_element(const order_ideal& X, int g);
 

@@ -61,7 +61,7 @@ class monomial_walk {
  private:
   // So many candidates are decided together: enough for long combinations of rows, few against the
   // number of points where memory matters.
-  static constexpr std::size_t batch = 128;
+  static constexpr std::size_t batch = 256;
 
   int size() const { return static_cast<int>(O.size()); }
 

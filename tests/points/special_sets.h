@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 #include <set>
 #include <string>
@@ -83,6 +84,22 @@ inline std::vector<coordinates> points_on_a_line_and_others(std::mt19937& random
 // One or two more points than there are monomials of degree up to 2.
 inline std::vector<coordinates> points_beyond_quadrics(std::mt19937& random) {
   return random_points((dim + 2) * (dim + 1) / 2 + 1 + below(random, 2), random);
+}
+
+// The points in other affine coordinates, in which the leading ideal tells less; random ones, so
+// that for small primes some may coincide.
+inline std::vector<coordinates> moved(const std::vector<coordinates>& points,
+                                      std::mt19937& random) {
+  std::vector<coordinates> images(points.size());
+  for (int j = 0; j < dim; ++j) {
+    coordinates factors;
+    for (int k = 0; k < dim; ++k) factors.push_back(below(random, Fp8::prime));
+    for (std::size_t i = 0; i < points.size(); ++i) {
+      images[i].push_back(
+          std::inner_product(points[i].begin(), points[i].end(), factors.begin(), 1) % Fp8::prime);
+    }
+  }
+  return images;
 }
 
 struct named_points {

@@ -9,6 +9,7 @@
 #include <numeric>
 
 #include "points/ideal/artinian_forms.h"
+#include "tests/points/plain_minimal_generators.h"
 #include "tests/points/point_sets.h"
 #include "tests/points/printed.h"
 #include "tests/points/special_sets.h"
@@ -288,6 +289,55 @@ TEST(MinIxProperty, KeepsTheElementsThatTheEliminationLeaves) {
     left_out += static_cast<int>(basis.size() - expected.size());
   });
   EXPECT_GT(left_out, 100);
+}
+
+// Expects the elements that the plain way keeps; returns how many others there are.
+int left_out_as_in_the_plain_way(const std::vector<coordinates>& points) {
+  const points::order_ideal X = walked(points);
+  const ideal generators = generators_from(X);
+  const std::vector<int> kept = plain_minimal_elements(X, Can_Lf(X));
+  EXPECT_EQ(kept.size(), generators.gen.size());
+  for (std::size_t m = 0; m < std::min(kept.size(), generators.gen.size()); ++m) {
+    polynomial f;
+    hom(f, groebner_element(X, kept[m]));
+    EXPECT_EQ(generators.gen[m], f) << "generator " << m + 1;
+  }
+  return X.Ix.no_of_gens() - generators.no_of_gens();
+}
+
+TEST(MinIxProperty, KeepsWhatIsKeptPairByPairAndRowByRow) {
+  for_each_set(
+      [](const std::vector<coordinates>& points) { left_out_as_in_the_plain_way(points); });
+  for_each_random_set({.seed = 89, .rounds = 10}, [](const std::vector<coordinates>& points) {
+    left_out_as_in_the_plain_way(points);
+  });
+}
+
+// More relations, border monomials and basis elements than are worked on together, and degrees in
+// which all, some or none of the basis elements are superfluous.
+TEST(MinIxProperty, KeepsWhatIsKeptPairByPairAndRowByRowOfLargerSets) {
+  struct size {
+    int n;
+    int points;
+    int left_out;
+  };
+  std::mt19937 random(83);
+  // P^8 has 45 monomials of degree up to 2, 165 of degree up to 3.
+  for (const auto& [n, s, left_out] : {size{8, 145, 40}, {8, 166, 0}, {8, 330, 100}, {10, 62, 4}}) {
+    const ring_in_force ring(101, n);
+    SCOPED_TRACE(std::to_string(s) + " points of P^" + std::to_string(n));
+    EXPECT_GE(left_out_as_in_the_plain_way(random_points(s, random)), left_out);
+  }
+}
+
+TEST(MinIxProperty, KeepsWhatIsKeptPairByPairAndRowByRowOfSpecialLargerSets) {
+  const ring_in_force ring(101, 8);
+  std::mt19937 random(79);
+  EXPECT_GT(left_out_as_in_the_plain_way(points_on_curve(8, 30)), 0);
+  EXPECT_EQ(left_out_as_in_the_plain_way(points_of_grid(8, 2)), 0);
+  std::vector<coordinates> points = points_of_grid(4, 3);
+  for (const coordinates& other : random_points(60, random)) points.push_back(other);
+  EXPECT_GT(left_out_as_in_the_plain_way(points), 20);
 }
 
 }  // namespace

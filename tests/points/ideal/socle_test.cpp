@@ -9,6 +9,7 @@
 
 #include "points/ideal/artinian_forms.h"
 #include "tests/points/plain_artinian.h"
+#include "tests/points/plain_socle.h"
 #include "tests/points/point_sets.h"
 #include "tests/points/printed.h"
 #include "tests/points/special_sets.h"
@@ -252,6 +253,38 @@ TEST(SocleProperty, EliminationHasNoUnknownsBeyondTheLastCandidate) {
     for (const coordinates& other : random_points(3, random)) points.push_back(other);
     EXPECT_EQ(plain_artinian(points).members(3), (std::vector<exponents>{{2, 0, 0, 1}}));
     EXPECT_GT(ties_among_expected_elements(points), 0);
+  }
+}
+
+// Expects what one large system for each degree gives; returns how many generators there are below
+// the top degree.
+int below_the_top_as_in_large_systems(const std::vector<coordinates>& points) {
+  const points::order_ideal X = walked(points);
+  const canonical_forms R = Can_Lf(X);
+  const std::vector<polynomial> found = socle(X, R).gen;
+  EXPECT_EQ(found, plain_socle(X, R));
+  return static_cast<int>(found.size()) - R.dimension(R.top_degree());
+}
+
+TEST(SocleProperty, ElementsAreThoseOfOneLargeSystemForEachDegree) {
+  for_each_set(
+      [](const std::vector<coordinates>& points) { below_the_top_as_in_large_systems(points); });
+  for_each_random_set({.seed = 107, .rounds = 10}, [](const std::vector<coordinates>& points) {
+    below_the_top_as_in_large_systems(points);
+  });
+}
+
+// With few and with many generators below the top degree, which few or many equations leave.
+TEST(SocleProperty, ElementsOfLargerSetsAreThoseOfOneLargeSystemForEachDegree) {
+  std::mt19937 random(109);
+  for (const term_order order : {term_order::deglex, term_order::degrevlex}) {
+    const ring_in_force ring(101, 8, order);
+    EXPECT_EQ(below_the_top_as_in_large_systems(random_points(330, random)), 0);
+    EXPECT_GT(below_the_top_as_in_large_systems(random_points(167, random)), 50);
+    EXPECT_GT(below_the_top_as_in_large_systems(random_points(172, random)), 20);
+    std::vector<coordinates> points = points_of_grid(4, 3);
+    for (const coordinates& other : random_points(60, random)) points.push_back(other);
+    EXPECT_GT(below_the_top_as_in_large_systems(points), 0);
   }
 }
 

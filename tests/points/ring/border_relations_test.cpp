@@ -4,7 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "points/ideal/artinian_forms.h"
+#include "tests/points/plain_minimal_generators.h"
 #include "tests/points/point_sets.h"
+#include "tests/points/special_sets.h"
 
 namespace zep::tests {
 namespace {
@@ -78,6 +83,77 @@ TEST(BorderRelations, OfQuadricsThatAreZeroAreZero) {
   const small_border border{Fp8(0), Fp8(0)};
   const border_relations cubes(border, {2}, 2, 4);
   EXPECT_EQ(cubes.relation(0, X, 1, Y), row{Fp8(0)});
+}
+
+// The multiples of the canonical forms of one degree.
+struct forms_of_border {
+  const points::order_ideal& set;
+  const points::canonical_forms& forms;
+
+  std::pair<int, int> origin(int b) const {
+    return {forms.origin_of(b).border, forms.origin_of(b).variable};
+  }
+
+  template <class Use>
+  void for_each_border_product(int b, int v, Use use) const {
+    forms.for_each_product(forms.form(b), set.B[b].tot_deg(), v,
+                           [&](Fp8 c, points::canonical_forms::product p) {
+                             if (!p.in_O) use(c, p.position);
+                           });
+  }
+};
+
+// Expects the constants of all relations of degree d that come of one border monomial after the
+// other, taken one by one and all together. Returns how many border monomials do not lead.
+int others_in_relations(const points::order_ideal& set, int d) {
+  const points::canonical_forms forms = Can_Lf(set);
+  const forms_of_border border{set, forms};
+  const plain_constants plain(set, forms);
+  std::vector<int> elements;
+  std::vector<int> leading;
+  for (int g = 0; g < set.Ix.no_of_gens(); ++g) {
+    if (set.Ix.lead(g).tot_deg() != d) continue;
+    elements.push_back(g);
+    leading.push_back(is_el_B(set, set.Ix.lead(g)));
+  }
+  const auto below = [&](int degree) {
+    return static_cast<int>(std::count_if(set.B.begin(), set.B.end(),
+                                          [&](const monom& t) { return t.tot_deg() < degree; }));
+  };
+  const border_relations relations(border, leading, below(d), below(d + 1));
+  std::vector<decltype(relations)::pair> pairs;
+  std::vector<row> expected;
+  for (int P = forms.begin(d - 2); P < forms.begin(d - 1); ++P) {
+    for (int w = 1; w < dim; ++w) {
+      for (int v = 0; v < w; ++v) {
+        if (forms.times(P, v).in_O || forms.times(P, w).in_O) continue;
+        pairs.push_back({forms.times(P, v).position, w, forms.times(P, w).position, v});
+        const row all = plain.of_relation({P, v, w});
+        row constants;
+        for (const int g : elements) constants.push_back(all[g]);
+        expected.push_back(constants);
+        const auto& [a, by_w, b, by_v] = pairs.back();
+        EXPECT_EQ(relations.relation(a, by_w, b, by_v), constants);
+      }
+    }
+  }
+  EXPECT_EQ(relations.relations(pairs), expected);
+  return below(d + 1) - below(d) - static_cast<int>(leading.size());
+}
+
+TEST(BorderRelationsProperty, AreThoseOfOneBorderMonomialAfterTheOther) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    const points::order_ideal set = walked(points);
+    for (int d = 2; d <= set.H.sigma + 3; ++d) others_in_relations(set, d);
+  });
+}
+
+// Here are more of them than are worked on together.
+TEST(BorderRelationsProperty, OfLargerSetsAreThoseOfOneBorderMonomialAfterTheOther) {
+  std::mt19937 random(67);
+  const ring_in_force ring(101, 8);
+  const points::order_ideal set = walked(random_points(330, random));
+  EXPECT_GT(others_in_relations(set, 5), 128);
 }
 
 }  // namespace
