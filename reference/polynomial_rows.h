@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "points/module/polynomial_rows.h"
+#include "reference/polynomial_row.h"
 
 namespace zep::reference {
 

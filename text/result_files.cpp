@@ -3,6 +3,7 @@
 #include "text/result_files.h"
 
 #include <ostream>
+#include <vector>
 
 #include "arith/ring.h"
 #include "base/interrupt.h"
@@ -53,7 +54,8 @@ void put_generators(std::ostream& out, const ideal& I) {
 void put_presentation(std::ostream& out, const presentation& w_R) {
   out << w_R.no_of_pr() << "\n" << w_R.A_d_cols << "\n";
   for (int j = 0; j < w_R.A_d_cols; ++j) {
-    put_vector(out, w_R.no_of_pr(), [&](int i) -> const polynomial& { return w_R.entry(i, j); });
+    const std::vector<polynomial> column = w_R.column(j);
+    put_vector(out, w_R.no_of_pr(), [&](int i) -> const polynomial& { return column[i]; });
   }
 }
 

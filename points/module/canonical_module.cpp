@@ -2,8 +2,6 @@
 
 #include "points/module/canonical_module.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -53,43 +51,23 @@ std::vector<int> without_superfluous(const dual_module& W, const std::vector<int
   return kept;
 }
 
-// The relations' entries at the generators that remain, no_of_pr of them, row by row. The columns
-// have entries at all candidates.
-std::vector<polynomial> relation_matrix(const generator_elimination& generators,
-                                        const std::vector<polynomial_row>& columns,
-                                        std::size_t no_of_pr) {
-  std::vector<polynomial> A_d;
-  A_d.reserve(no_of_pr * columns.size());
-  for (std::size_t i = 0; i < no_of_pr; ++i) {
-    heed_interrupt();
-    A_d.resize(A_d.size() + columns.size());
-  }
-  for (std::size_t j = 0; j < columns.size(); ++j) {
-    heed_interrupt();
-    std::vector<polynomial> entries = columns[j].entries();
-    std::size_t place = j;
-    for (std::size_t a = 0; a < entries.size(); ++a) {
-      if (generators.is_eliminated(static_cast<int>(a))) continue;
-      A_d[place] = std::move(entries[a]);
-      place += columns.size();
-    }
-  }
-  return A_d;
-}
-
-// The candidates that remain, with the relations among them; coldeg counts these by degree.
+// The candidates that remain, with the relations among them, by degrees.
 presentation presented(const order_ideal& X, const dual_module& W,
                        const generator_elimination& generators,
-                       const std::vector<polynomial_row>& columns, std::vector<int> coldeg) {
+                       std::vector<relations_of_degree> relations) {
   std::vector<int> pr;
   std::vector<monom> monomials;
+  std::vector<int> generator(W.no_of_candidates(), -1);
   for (int a = 0; a < W.no_of_candidates(); ++a) {
     if (generators.is_eliminated(a)) continue;
+    generator[a] = static_cast<int>(pr.size());
     pr.push_back(W.candidate(a));
     monomials.push_back(X.O[pr.back()]);
   }
-  std::vector<polynomial> A_d = relation_matrix(generators, columns, pr.size());
-  return {std::move(pr), std::move(monomials), X.H.sigma, std::move(A_d), std::move(coldeg)};
+  for (relations_of_degree& R : relations) {
+    for (module_monomial& t : R.monomials) t.component = generator[t.component];
+  }
+  return {std::move(pr), std::move(monomials), X.H.sigma, std::move(relations)};
 }
 
 }  // namespace
@@ -106,25 +84,23 @@ presentation omega(const order_ideal& X, reporter& to) {
   to.say(Line);
 
   const progress rewriting(to, "rewriting syzygies ...\n");
-  std::vector<syzygies_of_degree> syzygies = rewritten_syzygies(W, without_superfluous(W, leading));
+  const std::vector<syzygies_of_degree> syzygies =
+      rewritten_syzygies(W, without_superfluous(W, leading));
   rewriting.count_down(n);
   rewriting.end_line();
 
   const progress eliminating(to, "eliminating syzygies ...\n");
   generator_elimination generators(W);
-  std::vector<polynomial_row> columns;
-  std::vector<int> coldeg(1);
-  for (syzygies_of_degree& S : syzygies) {
-    coldeg.resize(W.top_degree() - S.degree + 1);
-    std::vector<polynomial_row> found = generators.eliminate(std::move(S));
-    coldeg.back() = static_cast<int>(found.size());
-    std::move(found.begin(), found.end(), std::back_inserter(columns));
+  std::vector<relations_of_degree> relations(1);
+  for (const syzygies_of_degree& S : syzygies) {
+    relations.resize(W.top_degree() - S.degree + 1);
+    relations.back() = generators.eliminate(S);
   }
   eliminating.count_down(n);
   eliminating.end_line();
 
   const progress storing(to, "rewriting syzygies ...\n");
-  presentation result = presented(X, W, generators, columns, std::move(coldeg));
+  presentation result = presented(X, W, generators, std::move(relations));
   storing.count_down(result.A_d_cols);
   storing.end_line();
   to.say(Line);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -73,9 +74,10 @@ class dual_module {
   // The border element with this exponent and owner, or -1.
   int find(const monom& exponent, int owner) const;
 
-  // The canonical form of border element b, a row over the first `members` members; with
-  // begin(degree(b) + 1) of them it is the form modulo X_0.
-  row canonical_form(int b, int members) const;
+  // The canonical forms of border elements of degree d, a row for each over the members from
+  // begin(d) up to, but not including, `end`; with end = begin(d + 1) they are the forms modulo
+  // X_0.
+  matrix canonical_forms_of(const std::vector<int>& elements, int d, int end) const;
 
  private:
   struct key {
@@ -94,8 +96,12 @@ class dual_module {
   void set_border();
   void set_places();
   void set_row(int i);
-  void extend(int i);
-  void multiply(row_view to, int i, int v, int members) const;
+  matrix transposed_forms() const;
+  void extend(int d, const matrix& forms);
+  row_view values_at_border(int i) { return rows_[i].subspan(no_of_members()); }
+  void multiply(row_view to, int i, int v, int first, int end) const;
+  void from_projections_to_members(matrix& elements, int first, int end) const;
+  void replace(matrix& elements, int first, std::span<const int> members, int behind) const;
 
   const std::vector<monom>& O_;
   const canonical_forms& R_;

@@ -3,6 +3,7 @@
 #include "points/module/projections.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 #include <utility>
 
@@ -23,41 +24,42 @@ bool is_maximal(const order_ideal& X, const monom& t) {
   return true;
 }
 
-std::vector<syzygy_monomial> unpruned(const order_ideal& X, const std::vector<int>& candidates) {
-  const int k = static_cast<int>(candidates.size());
-  const auto t = [&](int a) -> const monom& { return X.O[candidates[a]]; };
-  std::vector<syzygy_monomial> all;
-  all.reserve(candidates.size() * (candidates.size() / 2 + dim));
-  for (int a = 0; a < k; ++a) {
-    heed_interrupt();
-    for (int b = a + 1; b < k; ++b) all.push_back({t(a) / gcd(t(a), t(b)), a});
+// The monomials of candidate a, without looking if others divide them: those that later candidates
+// bring, and behind them the powers of the variables.
+std::vector<monom> unpruned(const order_ideal& X, const std::vector<int>& candidates,
+                            std::size_t a) {
+  const monom& t = X.O[candidates[a]];
+  std::vector<monom> all;
+  all.reserve(candidates.size() - a - 1 + dim);
+  for (std::size_t b = a + 1; b < candidates.size(); ++b) {
+    all.push_back(t / gcd(t, X.O[candidates[b]]));
   }
-  for (int a = 0; a < k; ++a) {
-    heed_interrupt();
-    for (int v = 0; v < dim; ++v) {
-      monom power;
-      power.set_exp(v, t(a).exp(v) + 1);
-      all.push_back({power, a});
-    }
+  for (int v = 0; v < dim; ++v) {
+    monom power;
+    power.set_exp(v, t.exp(v) + 1);
+    all.push_back(power);
   }
   return all;
 }
 
-// The indices of the monomials of one owner that stay. In the order of rising degrees, and of
-// falling indices among equal ones, everything that can drop a monomial stands before it.
-std::vector<int> minimal_ones(const std::vector<syzygy_monomial>& all, std::vector<int> indices) {
-  const auto T = [&](int i) -> const monom& { return all[i].T; };
-  std::sort(indices.begin(), indices.end(), [&](int i, int j) {
-    const int difference = T(i).tot_deg() - T(j).tot_deg();
-    return difference != 0 ? difference < 0 : i > j;
-  });
-  std::vector<int> kept;
-  for (const int i : indices) {
-    heed_interrupt();
-    const bool dropped =
-        std::any_of(kept.begin(), kept.end(), [&](int j) { return Zn_order_le(T(j), T(i)); });
-    if (!dropped) kept.push_back(i);
+// The indices of the monomials of one owner that stay, ascending. In the order of rising degrees,
+// and of falling indices among equal ones, everything that can drop a monomial stands before it.
+std::vector<int> minimal_ones(const std::vector<monom>& all) {
+  std::vector<std::pair<int, int>> order;
+  order.reserve(all.size());
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    order.emplace_back(all[i].tot_deg(), -static_cast<int>(i));
   }
+  std::sort(order.begin(), order.end());
+  std::vector<int> kept;
+  for (const auto& [degree, negative] : order) {
+    heed_interrupt();
+    const monom& T = all[-negative];
+    const bool dropped =
+        std::any_of(kept.begin(), kept.end(), [&](int j) { return Zn_order_le(all[j], T); });
+    if (!dropped) kept.push_back(-negative);
+  }
+  std::sort(kept.begin(), kept.end());
   return kept;
 }
 
@@ -74,20 +76,17 @@ std::vector<int> candidate_projections(const order_ideal& X) {
 
 std::vector<syzygy_monomial> syzygy_monomials(const order_ideal& X,
                                               const std::vector<int>& candidates) {
-  const std::vector<syzygy_monomial> all = unpruned(X, candidates);
-  std::vector<std::vector<int>> owned(candidates.size());
-  for (std::size_t i = 0; i < all.size(); ++i) {
-    owned[all[i].owner].push_back(static_cast<int>(i));
-  }
-  std::vector<int> kept;
-  for (std::vector<int>& indices : owned) {
-    const std::vector<int> minimal = minimal_ones(all, std::move(indices));
-    kept.insert(kept.end(), minimal.begin(), minimal.end());
-  }
-  std::sort(kept.begin(), kept.end());
   std::vector<syzygy_monomial> found;
-  found.reserve(kept.size());
-  for (const int i : kept) found.push_back(all[i]);
+  std::vector<syzygy_monomial> powers;
+  for (std::size_t a = 0; a < candidates.size(); ++a) {
+    heed_interrupt();
+    const std::vector<monom> all = unpruned(X, candidates, a);
+    for (const int i : minimal_ones(all)) {
+      const bool is_power = i >= std::ssize(all) - dim;
+      (is_power ? powers : found).push_back({all[i], static_cast<int>(a)});
+    }
+  }
+  found.insert(found.end(), powers.begin(), powers.end());
   return found;
 }
 

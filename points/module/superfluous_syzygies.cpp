@@ -13,21 +13,29 @@ namespace zep::points {
 
 namespace {
 
+// So many relations are taken before it is asked if more are of use.
+constexpr std::size_t relations_at_once = 256;
+
 // The border elements modulo X_0 and their degrees.
 class border_forms {
  public:
   explicit border_forms(const dual_module& W) : W_(W) {
-    forms_.reserve(W.no_of_border());
-    for (int b = 0; b < W.no_of_border(); ++b) {
-      const row all = W.canonical_form(b, W.begin(W.degree(b) + 1));
-      forms_.emplace_back(all.begin() + W.begin(W.degree(b)), all.end());
+    while (static_cast<int>(place_.size()) < W.no_of_border()) {
+      const int d = W.degree(static_cast<int>(place_.size()));
+      std::vector<int> elements;
+      for (int b = static_cast<int>(place_.size()); b < W.no_of_border() && W.degree(b) == d; ++b) {
+        place_.emplace_back(forms_.size(), elements.size());
+        elements.push_back(b);
+      }
+      forms_.push_back(W.canonical_forms_of(elements, d, W.begin(d + 1)));
     }
   }
 
   // Calls use(coefficient, border element) for the border elements in x_v * (form of border b).
   template <class Use>
   void for_each_border_product(int b, int v, Use use) const {
-    const row& form = forms_[b];
+    const auto [block, r] = place_[b];
+    const const_row_view form = forms_[block][r];
     const int first = W_.begin(W_.degree(b));
     for (std::size_t i = 0; i < form.size(); ++i) {
       if (form[i] == 0) continue;
@@ -50,23 +58,29 @@ class border_forms {
 
  private:
   const dual_module& W_;
-  std::vector<row> forms_;
+  // The forms degree by degree; the degree and the row there of each border element.
+  std::vector<matrix> forms_;
+  std::vector<std::pair<int, int>> place_;
 };
 
 // The relations' constants in degree d.
 row_space relations_of_degree(const dual_module& W, const border_relations<border_forms>& constants,
                               int size, int d) {
   row_space relations(size);
+  std::vector<row> some;
   for (int P = W.begin(d + 2); P < W.begin(d + 3); ++P) {
     for (int v = 0; v < dim; ++v) {
       if (W.times(P, v).is_member) continue;
       for (int w = v + 1; w < dim; ++w) {
         if (W.times(P, w).is_member) continue;
-        if (relations.rank() == size) return relations;
-        relations.add(constants.relation(W.times(P, v).position, w, W.times(P, w).position, v));
+        some.push_back(constants.relation(W.times(P, v).position, w, W.times(P, w).position, v));
       }
     }
+    if (some.size() < relations_at_once) continue;
+    relations.add_rows(std::exchange(some, {}));
+    if (relations.rank() == size) return relations;
   }
+  relations.add_rows(std::move(some));
   return relations;
 }
 

@@ -27,14 +27,19 @@ inline plain_form projective_form_of(const polynomial& f) {
   return terms;
 }
 
+// The relations by their entries.
+inline std::vector<std::vector<polynomial>> columns_of(const presentation& w_R) {
+  std::vector<std::vector<polynomial>> columns;
+  for (int j = 0; j < w_R.A_d_cols; ++j) columns.push_back(w_R.column(j));
+  return columns;
+}
+
 inline plain_presentation presentation_of(const presentation& w_R) {
   plain_presentation result;
   for (const monom& t : w_R.pr_monom) result.generators.push_back(exponents_of(t));
   for (int j = 0; j < w_R.A_d_cols; ++j) {
     plain_relation relation;
-    for (int i = 0; i < w_R.no_of_pr(); ++i) {
-      relation.push_back(projective_form_of(w_R.entry(i, j)));
-    }
+    for (const polynomial& f : w_R.column(j)) relation.push_back(projective_form_of(f));
     result.relations.push_back(relation);
   }
   return result;

@@ -183,7 +183,7 @@ class contents_text {
     put(pr);
     put(pr_monom);
     put(pr_deg);
-    put(A_d);
+    for (int j = 0; j < A_d_cols; ++j) put(w_R.column(j));
     put(A_d_coldeg);
     for (const int n : {sigma, A_d_cols, A_d_maxdeg}) put(n);
   }

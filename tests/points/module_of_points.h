@@ -2,6 +2,7 @@
 // The canonical module of a set of points over K[X_0], for tests of what is made of it.
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include "points/module/dual_module.h"
@@ -31,5 +32,14 @@ struct module_of_points {
   canonical_forms R;
   dual_module W;
 };
+
+// The canonical form of border element b, a row over the first `members` members.
+inline row canonical_form(const dual_module& W, int b, int members) {
+  const int d = W.degree(b);
+  row form(members);
+  const matrix from_degree = W.canonical_forms_of({b}, d, members);
+  std::copy(from_degree[0].begin(), from_degree[0].end(), form.begin() + W.begin(d));
+  return form;
+}
 
 }  // namespace zep::tests

@@ -282,10 +282,11 @@ inline std::vector<plain_vector> plain_relations(const presentation& w_R, int g)
   std::vector<plain_vector> found;
   const int n = w_R.no_of_pr();
   for (int j = 0; j < w_R.A_d_cols; ++j) {
+    const std::vector<polynomial> column = w_R.column(j);
     plain_vector relation;
     bool linear = false;
     for (int i = n - g; i < n; ++i) {
-      relation.push_back(w_R.A_d[i * w_R.A_d_cols + j]);
+      relation.push_back(column[i]);
       const monom& m = relation.back().term(0);
       linear = linear || m.tot_deg() + m.exp(proj - 1) == 1;
     }

@@ -4,7 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <utility>
+#include <vector>
+
 #include "points/module/superfluous_syzygies.h"
+#include "reference/termwise_elimination.h"
 #include "tests/points/module_of_points.h"
 #include "tests/points/plain_artinian.h"
 #include "tests/points/plain_projections.h"
@@ -13,11 +18,26 @@
 namespace zep::tests {
 namespace {
 
+struct column_term {
+  monom m;
+  int candidate = 0;
+  Fp8 c;
+};
+
+std::vector<column_term> terms_of(const points::relations_of_degree& R, int j) {
+  std::vector<column_term> terms;
+  R.for_each_term(j, [&](const points::module_monomial& t, Fp8 c) {
+    terms.push_back({t.m, t.component, c});
+  });
+  return terms;
+}
+
 struct eliminated_module {
   explicit eliminated_module(const std::vector<coordinates>& points) : m(points), generators(m.W) {
     for (const syzygies_of_degree& S : rewritten_syzygies(m.W, m.leading())) {
-      for (polynomial_row& column : generators.eliminate(S)) {
-        columns.push_back(std::move(column));
+      const points::relations_of_degree R = generators.eliminate(S);
+      for (int j = 0; j < R.count(); ++j) {
+        columns.push_back(terms_of(R, j));
         degrees.push_back(S.degree);
       }
     }
@@ -25,7 +45,7 @@ struct eliminated_module {
 
   module_of_points m;
   generator_elimination generators;
-  std::vector<polynomial_row> columns;
+  std::vector<std::vector<column_term>> columns;
   std::vector<int> degrees;
 };
 
@@ -44,7 +64,7 @@ TEST(GeneratorElimination, OfOnePointLeavesItsCoordinates) {
   const ring_in_force ring(101, 2);
   const eliminated_module e({{5, 7}});
   ASSERT_EQ(e.columns.size(), 2U);
-  const std::vector<polynomial_row::term>& first = e.columns[0].terms();
+  const std::vector<column_term>& first = e.columns[0];
   ASSERT_EQ(first.size(), 2U);
   EXPECT_EQ(exponents_of(first[0].m), (exponents{1, 0}));
   EXPECT_EQ(first[1].m.exp(2), 1);
@@ -76,14 +96,62 @@ TEST(GeneratorEliminationProperty, SyzygiesAreRewrittenByFallingDegrees) {
       ASSERT_LT(S.degree, before);
       before = S.degree;
       count += S.leading.size();
-      const int n = static_cast<int>(S.leading.size());
-      for (int r = 0; r < n; ++r) {
+      ASSERT_EQ(S.forms.rows(), static_cast<int>(S.leading.size()));
+      const int first = m.W.begin(S.degree);
+      ASSERT_EQ(S.forms.cols(), m.W.no_of_members() - first);
+      for (int r = 0; r < S.forms.rows(); ++r) {
         ASSERT_EQ(m.W.degree(S.leading[r]), S.degree);
-        for (int k = 0; k < n; ++k) ASSERT_EQ(S.coefs[r][k], r == k ? 1 : 0);
+        const row form = canonical_form(m.W, S.leading[r], m.W.no_of_members());
+        ASSERT_EQ(elements_of(S.forms[r]), row(form.begin() + first, form.end()));
       }
     }
     ASSERT_EQ(count, m.leading().size());
   });
+}
+
+void expect_terms(const std::vector<column_term>& found, const polynomial_row& expected) {
+  ASSERT_EQ(found.size(), expected.terms().size());
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    const polynomial_row::term& t = expected.terms()[i];
+    ASSERT_EQ(found[i].m, t.m);
+    ASSERT_EQ(found[i].m.exp(proj - 1), t.m.exp(proj - 1));
+    ASSERT_EQ(found[i].candidate, t.column);
+    ASSERT_EQ(found[i].c, t.c);
+  }
+}
+
+void expect_the_same_term_by_term(const std::vector<coordinates>& points) {
+  const eliminated_module e(points);
+  termwise_elimination plain(e.m.W);
+  std::size_t next = 0;
+  for (const syzygy_matrix& S : syzygy_matrices(e.m.W, e.m.leading())) {
+    for (const polynomial_row& column : plain.eliminate(S)) {
+      ASSERT_LT(next, e.columns.size());
+      ASSERT_EQ(e.degrees[next], S.degree);
+      ASSERT_NO_FATAL_FAILURE(expect_terms(e.columns[next], column));
+      ++next;
+    }
+  }
+  ASSERT_EQ(next, e.columns.size());
+  for (int a = 0; a < e.m.W.no_of_candidates(); ++a) {
+    ASSERT_EQ(e.generators.is_eliminated(a), plain.is_eliminated(a));
+  }
+}
+
+TEST(GeneratorEliminationProperty, GivesWhatTermsGiveOneByOne) {
+  for_each_set([](const std::vector<coordinates>& points) {
+    ASSERT_NO_FATAL_FAILURE(expect_the_same_term_by_term(points));
+  });
+}
+
+// More rows than are worked on at once, and candidates that are eliminated in products of matrices.
+TEST(GeneratorEliminationProperty, GivesWhatTermsGiveOneByOneOfManyPointsToo) {
+  std::mt19937 random(3);
+  for (const auto& [n, s] : {std::pair{5, 240}, std::pair{7, 150}, std::pair{3, 130}}) {
+    const ring_in_force ring(101, n);
+    const std::vector<coordinates> points = random_points(s, random);
+    ASSERT_NO_FATAL_FAILURE(expect_the_same_term_by_term(points));
+  }
 }
 
 TEST(GeneratorEliminationProperty, AsManyGeneratorsStayAsTheSocleHas) {
@@ -109,7 +177,7 @@ TEST(GeneratorEliminationProperty, ColumnsAreHomogeneousRelationsOfTheGenerators
         plain_projections(plain_facts(points).order_ideal, points);
     for (std::size_t j = 0; j < e.columns.size(); ++j) {
       weights sum(points.size(), 0);
-      for (const auto& [m, a, c] : e.columns[j].terms()) {
+      for (const auto& [m, a, c] : e.columns[j]) {
         const int position = e.m.W.candidate(a);
         ++entries;
         ASSERT_FALSE(e.generators.is_eliminated(a));

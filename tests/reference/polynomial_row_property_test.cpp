@@ -5,7 +5,7 @@
 #include <random>
 #include <vector>
 
-#include "points/module/polynomial_rows.h"
+#include "reference/polynomial_row.h"
 #include "tests/points/dense_rows.h"
 #include "tests/points/random_rows.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "points/module/polynomial_rows.h"
+#include "reference/polynomial_row.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,7 +10,7 @@
 #include "arith/ordering.h"
 #include "base/interrupt.h"
 
-namespace zep::points {
+namespace zep::reference {
 
 namespace {
 
@@ -96,4 +96,4 @@ void polynomial_row::operator*=(Fp8 c) {
   std::erase_if(terms_, [](const term& t) { return t.c == 0; });
 }
 
-}  // namespace zep::points
+}  // namespace zep::reference

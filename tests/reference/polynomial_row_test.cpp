@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "points/module/polynomial_rows.h"
+#include "reference/polynomial_row.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Matrices of polynomials, row by row.
+// Rows of polynomials.
 #pragma once
 
 #include <vector>
 
 #include "arith/polynomial.h"
 
-namespace zep::points {
+namespace zep::reference {
 
 // A row of polynomials, most of them zero, as one list of the terms of all its entries: entry by
 // entry, each descending in the order in force.
@@ -43,4 +43,4 @@ class polynomial_row {
   std::vector<term> terms_;
 };
 
-}  // namespace zep::points
+}  // namespace zep::reference
