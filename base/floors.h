@@ -12,6 +12,7 @@
 //     points/walk
 //     points/ideal
 //     points/module
+//     points/koszul
 //     points/strand
 //     points/record
 //     text
