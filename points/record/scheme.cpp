@@ -94,21 +94,22 @@ std::optional<std::vector<int>> scheme::dependent_separators(int k) {
 }
 
 void scheme::linid() {
-  if (!known_.strands.linid) linid([](int, const form_vectors&) {}, numbers::count);
+  if (!known_.strands.linid) linid(nullptr, numbers::count);
 }
 
 void scheme::linom() {
-  if (!known_.strands.linom) linom([](int, const form_vectors&) { return true; }, numbers::count);
+  if (!known_.strands.linom) linom(nullptr, numbers::count);
 }
 
 void scheme::linid(const level_action& act, numbers counts) {
   const ideal& generators = min_Ix();
-  known_.strands.linres[0] = points::linid(generators, bu_mo().H.alpha, *to_, act);
+  known_.strands.linres[0] = points::linid(generators, bu_mo(), Can_Lf(), *to_, act);
   if (counts == numbers::count) known_.strands.linid = true;
 }
 
 void scheme::linom(const level_visitor& visit, numbers counts) {
-  known_.strands.linres[1] = points::linom(omega(), *to_, visit);
+  const presentation& w_R = omega();
+  known_.strands.linres[1] = points::linom(w_R, bu_mo(), Can_Lf(), *to_, visit);
   if (counts == numbers::count) known_.strands.linom = true;
 }
 

@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
+#include <functional>
+#include <unordered_map>
 #include <utility>
 
 #include "arith/ordering.h"
@@ -15,22 +16,24 @@ namespace zep::points {
 
 namespace {
 
-struct descending {
-  bool operator()(const monom& a, const monom& b) const { return a > b; }
-};
+using monom_numbers = std::unordered_map<monom, std::uint32_t, monom_hash, std::equal_to<>>;
 
 // The monomials of the forms with their numbers.
-std::map<monom, std::uint32_t, descending> numbered_monomials(
-    const std::vector<std::vector<polynomial>>& components) {
-  std::map<monom, std::uint32_t, descending> numbers;
+monom_numbers numbered_monomials(const std::vector<std::vector<polynomial>>& components,
+                                 std::vector<monom>& monomials) {
+  monom_numbers numbers;
   for (const std::vector<polynomial>& vector : components) {
     heed_interrupt();
     for (const polynomial& f : vector) {
-      for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) numbers.emplace(f.term(i), 0);
+      for (int i = 0; sign(f) != 0 && i < f.no_of_monoms(); ++i) {
+        if (numbers.emplace(f.term(i), 0).second) monomials.push_back(f.term(i));
+      }
     }
   }
+  std::sort(monomials.begin(), monomials.end(),
+            [](const monom& a, const monom& b) { return a > b; });
   std::uint32_t next = 0;
-  for (auto& [m, number] : numbers) number = next++;
+  for (const monom& m : monomials) numbers.at(m) = next++;
   return numbers;
 }
 
@@ -80,10 +83,8 @@ std::vector<monom> projective_variables() {
 }
 
 form_vectors vectors_of(std::vector<std::vector<polynomial>> components, int rank) {
-  const auto numbers = numbered_monomials(components);
   std::vector<monom> monomials;
-  monomials.reserve(numbers.size());
-  for (const auto& [m, number] : numbers) monomials.push_back(m);
+  const monom_numbers numbers = numbered_monomials(components, monomials);
   std::vector<compact_row> vectors;
   vectors.reserve(components.size());
   row all(monomials.size() * rank);

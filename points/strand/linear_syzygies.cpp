@@ -200,21 +200,30 @@ std::vector<linear_pair> pairs_of_generators(const form_vectors& G) {
   return pairs;
 }
 
-std::vector<linear_pair> pairs_of_linear_vectors(const form_vectors& G) {
-  std::vector<std::vector<int>> at_position(G.rank());
-  std::vector<linear_pair> pairs;
+std::vector<first_term> first_terms_of(const form_vectors& G) {
+  std::vector<first_term> terms(G.count(), {0, -1});
   for (int i = 0; i < G.count(); ++i) {
-    if (G.position(i) >= 0) at_position[G.position(i)].push_back(i);
+    if (G.position(i) >= 0) terms[i] = {number_of_variable(G.leading_monomial(i)), G.position(i)};
+  }
+  return terms;
+}
+
+std::vector<linear_pair> pairs_of_linear_vectors(const std::vector<first_term>& G) {
+  int positions = 0;
+  for (const first_term& t : G) positions = std::max(positions, t.position + 1);
+  std::vector<std::vector<int>> at_position(positions);
+  std::vector<linear_pair> pairs;
+  const int n = static_cast<int>(G.size());
+  for (int i = 0; i < n; ++i) {
+    if (G[i].position >= 0) at_position[G[i].position].push_back(i);
   }
   std::vector<std::size_t> taken(at_position.size());
-  for (int i = 0; i < G.count(); ++i) {
-    const int position = G.position(i);
-    if (position < 0) continue;
-    const std::vector<int>& same = at_position[position];
+  for (int i = 0; i < n; ++i) {
+    if (G[i].position < 0) continue;
+    const std::vector<int>& same = at_position[G[i].position];
     heed_interrupt();
-    for (std::size_t k = ++taken[position]; k < same.size(); ++k) {
-      pairs.push_back({i, same[k], number_of_variable(G.leading_monomial(same[k])),
-                       number_of_variable(G.leading_monomial(i))});
+    for (std::size_t k = ++taken[G[i].position]; k < same.size(); ++k) {
+      pairs.push_back({i, same[k], G[same[k]].variable, G[i].variable});
     }
   }
   return pairs;

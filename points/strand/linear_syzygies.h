@@ -20,9 +20,19 @@ struct linear_pair {
 // multiple one degree higher; i ascending, then j.
 std::vector<linear_pair> pairs_of_generators(const form_vectors& G);
 
-// The pairs among triangular vectors of linear forms: all with the same position, i ascending, then
-// j. The common multiple is the product of the leading variables.
-std::vector<linear_pair> pairs_of_linear_vectors(const form_vectors& G);
+// The first term of a vector of linear forms: variable, as a number, and position; position -1 for
+// a zero vector.
+struct first_term {
+  int variable;
+  int position;
+};
+
+// The first terms of vectors of linear forms.
+std::vector<first_term> first_terms_of(const form_vectors& G);
+
+// The pairs among triangular vectors of linear forms, given by their first terms: all with the same
+// position, i ascending, then j. The common multiple is the product of the leading variables.
+std::vector<linear_pair> pairs_of_linear_vectors(const std::vector<first_term>& G);
 
 // The linear syzygies that come from the pairs, one vector of length G.count() for each pair: the
 // difference times_j * G_j - times_i * G_i is reduced by products of variables with vectors of G

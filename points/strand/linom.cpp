@@ -31,34 +31,49 @@ form_vectors linear_relations(const presentation& w_R, int rank) {
   std::vector<std::vector<polynomial>> relations;
   for (int j = 0; j < w_R.A_d_cols; ++j) {
     heed_interrupt();
-    std::vector<polynomial> last;
-    last.reserve(rank);
-    for (int i = w_R.no_of_pr() - rank; i < w_R.no_of_pr(); ++i) {
-      last.push_back(w_R.entry(i, j));
-    }
+    std::vector<polynomial> last = w_R.column(j);
+    last.erase(last.begin(), last.end() - rank);
     if (std::any_of(last.begin(), last.end(), is_linear)) relations.push_back(std::move(last));
   }
   return vectors_of(std::move(relations), rank);
 }
 
-}  // namespace
-
-std::vector<int> linom(const presentation& w_R, reporter& to, const level_visitor& visit) {
+template <class Follow>
+std::vector<int> followed(const presentation& w_R, reporter& to, const level_visitor& visit,
+                          Follow follow) {
   const int rank = no_of_least_generators(w_R);
   std::vector<int> numbers(dim);
   numbers.back() = rank;
   to.say("w_R has " + std::to_string(rank) + " generators in degree " + std::to_string(-w_R.sigma) +
          "\n");
-  const auto count_and_visit = [&](int level, const form_vectors& vectors) {
-    const int number = vectors.no_of_nonzero();
+  strand_watcher watcher;
+  watcher.found = [&](int level, int number) {
     if (level < dim) numbers[dim - 1 - level] = number;
     to.say(std::to_string(number) + " syzygies in degree " + std::to_string(-w_R.sigma - level) +
            " found\n");
-    return visit(level, vectors);
   };
-  strand_of_relations(linear_relations(w_R, rank), to, count_and_visit);
+  watcher.visit = visit;
+  follow(linear_relations(w_R, rank), watcher);
   to.say(Line);
   return numbers;
+}
+
+}  // namespace
+
+// Where linear forms vanish on X, vectors have few terms, and pairs are faster.
+std::vector<int> linom(const presentation& w_R, const order_ideal& X, const canonical_forms& A,
+                       reporter& to, const level_visitor& visit) {
+  if (!is_meaningful(X) || X.H.alpha < 2) return linom_by_pairs(w_R, to, visit);
+  const koszul_complex K(A);
+  return followed(w_R, to, visit, [&](form_vectors relations, const strand_watcher& watcher) {
+    strand_of_module(std::move(relations), K, to, watcher);
+  });
+}
+
+std::vector<int> linom_by_pairs(const presentation& w_R, reporter& to, const level_visitor& visit) {
+  return followed(w_R, to, visit, [&](form_vectors relations, const strand_watcher& watcher) {
+    strand_of_relations(std::move(relations), to, watcher);
+  });
 }
 
 }  // namespace zep::points

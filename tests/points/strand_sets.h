@@ -15,9 +15,10 @@ namespace zep::tests {
 // Everything that the strands start from.
 struct strand_starts {
   explicit strand_starts(const std::vector<coordinates>& points)
-      : X(walked(points)), min_Ix(points::min_Ix(X, Can_Lf(X))), w_R(omega(X, nobody())) {}
+      : X(walked(points)), A(Can_Lf(X)), min_Ix(points::min_Ix(X, A)), w_R(omega(X, nobody())) {}
 
   points::order_ideal X;
+  canonical_forms A;
   ideal min_Ix;
   presentation w_R;
 };

@@ -49,7 +49,7 @@ void put_matrix_of_w_R(std::ostream& out, int level, const form_vectors& vectors
 
 std::string strand_of_I_X(const strand_starts& start, level_text write, reporter& to,
                           std::ostringstream& out) {
-  linid(start.min_Ix, start.X.H.alpha, to,
+  linid(start.min_Ix, start.X, start.A, to,
         [&](int level, const form_vectors& vectors) { write(out, level, vectors); });
   return out.str();
 }
@@ -78,7 +78,7 @@ enum class extent { all, relations };
 
 std::string written_of_w_R(const presentation& w_R, level_text write, extent levels = extent::all) {
   std::ostringstream out;
-  linom(w_R, nobody(), [&](int level, const form_vectors& vectors) {
+  linom_by_pairs(w_R, nobody(), [&](int level, const form_vectors& vectors) {
     write(out, level, vectors);
     return levels == extent::all;
   });
@@ -108,7 +108,7 @@ TEST(StrandText, ShowsTheRelationsBehindTheirNumber) {
   const strand_starts start({{5, 7}});
   std::ostringstream screen;
   told_in_order reporter(screen);
-  linom(start.w_R, reporter, [&](int level, const form_vectors& vectors) {
+  linom(start.w_R, start.X, start.A, reporter, [&](int level, const form_vectors& vectors) {
     show_relations(screen, level, vectors);
     return false;
   });

@@ -18,12 +18,12 @@ namespace {
 using numbers = std::vector<int>;
 
 numbers strand_of_I_X(const order_ideal& X) {
-  return linid(min_Ix(X, Can_Lf(X)), X.H.alpha, nobody(), [](int, const form_vectors&) {});
+  const canonical_forms A = Can_Lf(X);
+  return linid(min_Ix(X, A), X, A, nobody(), nullptr);
 }
 
 std::pair<numbers, numbers> both_strands(const order_ideal& X) {
-  return {strand_of_I_X(X),
-          linom(omega(X, nobody()), nobody(), [](int, const form_vectors&) { return true; })};
+  return {strand_of_I_X(X), linom(omega(X, nobody()), X, Can_Lf(X), nobody(), nullptr)};
 }
 
 void sizes(benchmark::internal::Benchmark* bench) {

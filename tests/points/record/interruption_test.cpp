@@ -19,6 +19,7 @@ TEST(Interruption, LeavesWhatWasComplete) {
   const ring_in_force ring(101, 2);
   told_set set({{0, 0}, {1, 0}, {0, 1}});
   scheme& X = set.X;
+  X.Can_Lf();
   X.omega();
   const results before = X.known();
   const auto interrupt = [](int, const form_vectors&) -> bool { throw interrupted(); };

@@ -198,7 +198,7 @@ TEST(Scheme, MakesThePresentationAndTheStrandsFromWhatTheyNeed) {
   };
   EXPECT_EQ(known_after([](scheme& X) { X.omega(); }), "bu_mo omega ");
   EXPECT_EQ(known_after([](scheme& X) { X.linid(); }), "bu_mo Can_Lf min_Ix linid ");
-  EXPECT_EQ(known_after([](scheme& X) { X.linom(); }), "bu_mo omega linom ");
+  EXPECT_EQ(known_after([](scheme& X) { X.linom(); }), "bu_mo Can_Lf omega linom ");
 }
 
 TEST(Scheme, TellsOfEachStepOnceInAnyOrderOfQuestions) {

@@ -15,10 +15,8 @@ namespace {
 TEST(LinearStrandMeaning, NumbersAreThoseOfTheResolutionOfTheRing) {
   for_each_special_or_random_set([](const std::vector<coordinates>& points) {
     const strand_starts start(points);
-    const std::vector<int> I_X =
-        linid(start.min_Ix, start.X.H.alpha, nobody(), [](int, const form_vectors&) {});
-    const std::vector<int> w_R =
-        linom(start.w_R, nobody(), [](int, const form_vectors&) { return true; });
+    const std::vector<int> I_X = linid(start.min_Ix, start.X, start.A, nobody(), nullptr);
+    const std::vector<int> w_R = linom(start.w_R, start.X, start.A, nobody(), nullptr);
     const plain_artinian artinian(points);
     const plain_betti betti(artinian);
     const int D = artinian.top_degree();
@@ -34,12 +32,13 @@ TEST(LinearStrandMeaning, NumbersAreThoseOfTheResolutionOfTheRing) {
 // The vectors of all levels, as components.
 using vectors_by_level = std::vector<std::vector<plain_vector>>;
 
-level_visitor collection(vectors_by_level& levels) {
-  return [&levels](int, const form_vectors& vectors) {
+strand_watcher collection(vectors_by_level& levels) {
+  const auto collect = [&levels](int, const form_vectors& vectors) {
     levels.emplace_back();
     for (int i = 0; i < vectors.count(); ++i) levels.back().push_back(vectors.components(i));
     return true;
   };
+  return {[](int, int) {}, collect};
 }
 
 vectors_by_level levels_of_I_X(const ideal& min_Ix) {

@@ -74,6 +74,10 @@ class comparison {
     return [this](int level, const form_vectors& found) { return visit(level, found); };
   }
 
+  strand_watcher watcher() {
+    return {[](int, int) {}, visitor()};
+  }
+
   void expect_all_visited() const { ASSERT_EQ(visited_, static_cast<int>(strand_.levels.size())); }
 
  private:
@@ -84,18 +88,39 @@ class comparison {
 
 void expect_levels_of_I_X(const ideal& min_Ix, const plain_strand& strand) {
   comparison levels(strand, 0);
-  strand_of_generators(vectors_of(plain_generators(min_Ix).vectors, 1), nobody(), levels.visitor());
+  strand_of_generators(vectors_of(plain_generators(min_Ix).vectors, 1), nobody(), levels.watcher());
   levels.expect_all_visited();
 }
 
-void expect_linid(const strand_starts& start, const plain_strand& strand) {
-  comparison levels(strand, 0);
-  told reporter;
-  const auto act = [&](int level, const form_vectors& vectors) { levels.visit(level, vectors); };
-  ASSERT_EQ(linid(start.min_Ix, start.X.H.alpha, reporter, act), strand.numbers);
-  levels.expect_all_visited();
+void expect_told(const told& reporter, const plain_strand& strand) {
   ASSERT_EQ(reporter.out, strand.marks());
   ASSERT_EQ(reporter.err, strand.progress);
+}
+
+// Follows a strand with follow(reporter, visitor), which returns the numbers.
+template <class Follow>
+void expect_followed(const plain_strand& strand, int first, Follow follow) {
+  comparison levels(strand, first);
+  told reporter;
+  ASSERT_EQ(follow(reporter, levels.visitor()), strand.numbers);
+  levels.expect_all_visited();
+  expect_told(reporter, strand);
+}
+
+level_action action(const level_visitor& visit) {
+  return [visit](int level, const form_vectors& vectors) { visit(level, vectors); };
+}
+
+void expect_linid(const strand_starts& start, const plain_strand& strand) {
+  expect_followed(strand, 0, [&](reporter& to, const level_visitor& visit) {
+    return linid(start.min_Ix, start.X, start.A, to, action(visit));
+  });
+  expect_followed(strand, 0, [&](reporter& to, const level_visitor& visit) {
+    return linid_by_pairs(start.min_Ix, start.X.H.alpha, to, action(visit));
+  });
+  told without_vectors;
+  ASSERT_EQ(linid(start.min_Ix, start.X, start.A, without_vectors, nullptr), strand.numbers);
+  expect_told(without_vectors, strand);
 }
 
 TEST(LinearStrandProperty, OfTheIdealIsComputedAndToldAsThePlainStrand) {
@@ -114,17 +139,20 @@ TEST(LinearStrandProperty, OfTheIdealIsComputedAndToldAsThePlainStrand) {
 void expect_levels_of_w_R(const presentation& w_R, const plain_strand& strand) {
   const int rank = plain_no_of_generators(w_R);
   comparison levels(strand, 1);
-  strand_of_relations(vectors_of(plain_relations(w_R, rank), rank), nobody(), levels.visitor());
+  strand_of_relations(vectors_of(plain_relations(w_R, rank), rank), nobody(), levels.watcher());
   levels.expect_all_visited();
 }
 
-void expect_linom(const presentation& w_R, const plain_strand& strand) {
-  comparison levels(strand, 1);
-  told reporter;
-  ASSERT_EQ(linom(w_R, reporter, levels.visitor()), strand.numbers);
-  levels.expect_all_visited();
-  ASSERT_EQ(reporter.out, strand.marks());
-  ASSERT_EQ(reporter.err, strand.progress);
+void expect_linom(const strand_starts& start, const plain_strand& strand) {
+  expect_followed(strand, 1, [&](reporter& to, const level_visitor& visit) {
+    return linom(start.w_R, start.X, start.A, to, visit);
+  });
+  expect_followed(strand, 1, [&](reporter& to, const level_visitor& visit) {
+    return linom_by_pairs(start.w_R, to, visit);
+  });
+  told without_vectors;
+  ASSERT_EQ(linom(start.w_R, start.X, start.A, without_vectors, nullptr), strand.numbers);
+  expect_told(without_vectors, strand);
 }
 
 TEST(LinearStrandProperty, OfTheCanonicalModuleIsComputedAndToldAsThePlainStrand) {
@@ -133,7 +161,7 @@ TEST(LinearStrandProperty, OfTheCanonicalModuleIsComputedAndToldAsThePlainStrand
     const strand_starts start(points);
     const plain_strand strand = plain_strand_of_w_R(start.w_R);
     expect_levels_of_w_R(start.w_R, strand);
-    expect_linom(start.w_R, strand);
+    expect_linom(start, strand);
     seen.add(strand);
   });
   EXPECT_GT(std::min(seen.long_ones, seen.marked), 50);
@@ -149,7 +177,7 @@ TEST(LinearStrandProperty, OfTheCanonicalModuleEndsWhereTheVisitorWantsIt) {
       levels.visit(level, vectors);
       return false;
     };
-    ASSERT_EQ(linom(start.w_R, reporter, visit), strand.numbers);
+    ASSERT_EQ(linom(start.w_R, start.X, start.A, reporter, visit), strand.numbers);
     levels.expect_all_visited();
     ASSERT_EQ(reporter.out, "");
     ASSERT_EQ(reporter.err, strand.progress);
@@ -191,9 +219,8 @@ TEST(LinearStrandProperty, MarksAreTheSameForWhoeverListens) {
                         const plain_strand I_X = plain_strand_of_I_X(start.min_Ix, alpha);
                         const plain_strand w_R = plain_strand_of_w_R(start.w_R);
                         told inattentive(false);
-                        linid(start.min_Ix, alpha, inattentive, [](int, const form_vectors&) {});
-                        linom(start.w_R, inattentive,
-                              [](int, const form_vectors&) { return true; });
+                        linid(start.min_Ix, start.X, start.A, inattentive, nullptr);
+                        linom(start.w_R, start.X, start.A, inattentive, nullptr);
                         ASSERT_EQ(inattentive.out, I_X.marks() + w_R.marks());
                         marked += inattentive.out.empty() ? 0 : 1;
                       });

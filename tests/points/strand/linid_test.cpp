@@ -27,7 +27,9 @@ struct strand {
   std::vector<int> nonzero;
 };
 
-strand strand_of(const ideal& generators, int alpha) {
+// What follow(reporter, action), which returns the numbers, tells and shows.
+template <class Follow>
+strand strand_followed(Follow follow) {
   told reporter;
   strand found;
   const auto act = [&](int level, const form_vectors& vectors) {
@@ -36,15 +38,23 @@ strand strand_of(const ideal& generators, int alpha) {
     found.counts.push_back(vectors.count());
     found.nonzero.push_back(vectors.no_of_nonzero());
   };
-  found.numbers = linid(generators, alpha, reporter, act);
+  found.numbers = follow(reporter, act);
   found.out = reporter.out;
   found.err = reporter.err;
   return found;
 }
 
+strand strand_of(const ideal& generators, int alpha) {
+  return strand_followed([&](reporter& to, const level_action& act) {
+    return linid_by_pairs(generators, alpha, to, act);
+  });
+}
+
 strand strand_of(const std::vector<coordinates>& points) {
   const strand_starts start(points);
-  return strand_of(start.min_Ix, start.X.H.alpha);
+  return strand_followed([&](reporter& to, const level_action& act) {
+    return linid(start.min_Ix, start.X, start.A, to, act);
+  });
 }
 
 TEST(Linid, OfATriangleHasThreeGeneratorsAndTwoSyzygies) {
@@ -79,7 +89,7 @@ TEST(Linid, LeavesAMarkForWhatIsNoSyzygyWhoeverListens) {
   const ring_in_force ring(101, 2);
   const strand_starts start({{1, 2}, {4, 7}, {5, 3}, {8, 9}});
   told inattentive(false);
-  EXPECT_EQ(linid(start.min_Ix, start.X.H.alpha, inattentive, nothing), (std::vector<int>{2, 0}));
+  EXPECT_EQ(linid(start.min_Ix, start.X, start.A, inattentive, nothing), (std::vector<int>{2, 0}));
   EXPECT_EQ(inattentive.out, ".");
 }
 

@@ -37,7 +37,7 @@ strand strand_of(const presentation& w_R, const level_visitor& visit = to_the_en
     EXPECT_EQ(level, static_cast<int>(found.counts.size()));
     return visit(level, vectors);
   };
-  found.numbers = linom(w_R, reporter, count_and_visit);
+  found.numbers = linom_by_pairs(w_R, reporter, count_and_visit);
   found.out = reporter.out;
   found.err = reporter.err;
   return found;
