@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/interrupt.h"
+#include "base/paranoid.h"
 #include "linalg/kernels/product_tile.h"
 #include "linalg/kernels/row_kernels.h"
 #include "linalg/row_operations.h"
@@ -138,6 +139,13 @@ std::size_t no_of_nonzero(const_row_view s) {
   return s.size() - static_cast<std::size_t>(std::count(s.begin(), s.end(), Fp8(0)));
 }
 
+bool have_one_length(std::span<const row_view> c, std::span<const const_row_view> b) {
+  if (c.empty()) return true;
+  const std::size_t length = c.front().size();
+  const auto has_it = [length](const_row_view r) { return r.size() == length; };
+  return std::all_of(c.begin(), c.end(), has_it) && std::all_of(b.begin(), b.end(), has_it);
+}
+
 void add_combination(row_view c, const_row_view a, std::span<const const_row_view> b) {
   for (std::size_t k = 0; k < b.size(); ++k) {
     if (a[k] == 0) continue;
@@ -150,6 +158,7 @@ void add_combination(row_view c, const_row_view a, std::span<const const_row_vie
 
 void add_combinations(std::span<const row_view> c, const matrix& a,
                       std::span<const const_row_view> b) {
+  ensure("rows of one call have one length", [&] { return have_one_length(c, b); });
   tile_kernel* const add_to_tile = kernels_in_force::get().add_to_tile;
   const bool in_tiles = add_to_tile != nullptr && b.size() >= least_worth_packing;
   std::vector<row_view> tiled_c;

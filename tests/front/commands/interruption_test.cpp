@@ -114,10 +114,10 @@ class command_for_A {
     return "\n";
   }
 
-  // Nothing of a result but the whole. Of two that go into one file, one behind the other, the
-  // first may be there alone.
+  // Nothing of a result, or the whole, as the command may be interrupted behind it. Of two that go
+  // into one file, one behind the other, the first may be there alone.
   bool is_whole(const std::string& text, const std::string& result) const {
-    if (text.empty() || text == contents_before) return true;
+    if (text.empty() || text == contents_before || text == result) return true;
     return todo_.name == std::string_view("putlinres") && result.starts_with(text) &&
            result.find("\n1. matrix of linear resolution of w_R : \n") == text.size();
   }
