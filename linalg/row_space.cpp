@@ -9,6 +9,7 @@
 #include "base/paranoid.h"
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
+#include "linalg/views.h"
 
 namespace zep::linalg {
 
@@ -24,22 +25,6 @@ std::size_t extent(const_row_view s) {
   std::size_t end = s.size();
   while (end > 0 && s[end - 1] == 0) --end;
   return end;
-}
-
-std::vector<row_view> views_of(std::vector<row>& rows) { return {rows.begin(), rows.end()}; }
-
-std::vector<row_view> rows_of(matrix& m) {
-  std::vector<row_view> rows;
-  rows.reserve(static_cast<std::size_t>(m.rows()));
-  for (int i = 0; i < m.rows(); ++i) rows.push_back(m[i]);
-  return rows;
-}
-
-std::vector<const_row_view> const_rows_of(const matrix& m) {
-  std::vector<const_row_view> rows;
-  rows.reserve(static_cast<std::size_t>(m.rows()));
-  for (int i = 0; i < m.rows(); ++i) rows.push_back(m[i]);
-  return rows;
 }
 
 template <class View, class Rows>
@@ -159,7 +144,7 @@ void row_space::reduce(std::span<const row_view> rows, const group& by) const {
     for (std::size_t k = 0; k < by.size; ++k) values[k] = -hit[i][pivots[k]];
   }
   matrix multiples(at_pivots.cols(), at_pivots.rows());
-  add_combinations(rows_of(multiples), at_pivots, const_rows_of(by.to_multiples));
+  add_combinations(views_of(multiples), at_pivots, const_views_of(by.to_multiples));
   const auto own = std::span(rows_).subspan(by.first, by.size);
   add_combinations(stretches<row_view>(hit, by.begin, by.end), multiples,
                    stretches<const_row_view>(own, by.begin, by.end));

@@ -10,6 +10,7 @@
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
+#include "linalg/views.h"
 
 namespace zep::points {
 
@@ -99,13 +100,7 @@ class annihilated_forms {
   void annihilate_by(int v) {
     matrix products = by_.products(free_, v);
     const matrix of_bound = by_.products(bound_, v);
-    std::vector<row_view> sums;
-    sums.reserve(free_.size());
-    for (int i = 0; i < products.rows(); ++i) sums.push_back(products[i]);
-    std::vector<const_row_view> summands;
-    summands.reserve(bound_.size());
-    for (int i = 0; i < of_bound.rows(); ++i) summands.push_back(of_bound[i]);
-    add_combinations(sums, bound_by_free_, summands);
+    add_combinations(views_of(products), bound_by_free_, const_views_of(of_bound));
     conditions_.add_rows(columns_of(products));
   }
 

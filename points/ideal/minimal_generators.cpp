@@ -42,7 +42,7 @@ class artinian_border {
   const canonical_forms& forms_;
 };
 
-using relations_of_degree = border_relations<artinian_border>;
+using relations_among_generators = border_relations<artinian_border>;
 
 // The part of an ascending list that has one degree, from `begin` up to `end`.
 struct stretch {
@@ -63,10 +63,10 @@ stretch of_degree(int d, int begin, int n, Monomial monomial) {
 constexpr std::size_t batch = 256;
 
 // What the constants in all relations of degree d span, over `size` basis elements.
-row_space space_of_constants(const canonical_forms& forms, const relations_of_degree& relations,
-                             int d, int size) {
+row_space space_of_constants(const canonical_forms& forms,
+                             const relations_among_generators& relations, int d, int size) {
   row_space constants(size);
-  std::vector<relations_of_degree::pair> pairs;
+  std::vector<relations_among_generators::pair> pairs;
   const auto take = [&] {
     constants.add_rows(relations.relations(pairs));
     pairs.clear();
@@ -99,7 +99,7 @@ class elements_of_degree {
       leading.push_back(is_el_B(X, X.Ix.lead(g)));
     }
     const artinian_border B(X, forms);
-    const relations_of_degree relations(B, leading, border.begin, border.end);
+    const relations_among_generators relations(B, leading, border.begin, border.end);
     const row_space constants =
         space_of_constants(forms, relations, X.Ix.lead(begin_).tot_deg(), size_);
     rank_ = constants.rank();

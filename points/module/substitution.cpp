@@ -7,6 +7,7 @@
 
 #include "base/interrupt.h"
 #include "linalg/combinations.h"
+#include "linalg/views.h"
 
 namespace zep::points {
 
@@ -119,10 +120,7 @@ void substitution::add_products(matrix& sums, const matrix& coefs, const multipl
   }
   if (rows.empty() || group.position.empty()) return;
   matrix products(static_cast<int>(group.position.size()), static_cast<int>(rows.size()));
-  std::vector<row_view> views;
-  views.reserve(rows.size());
-  for (int i = 0; i < products.rows(); ++i) views.push_back(products[i]);
-  add_combinations(views, chosen, expressed);
+  add_combinations(views_of(products), chosen, expressed);
   for (int i = 0; i < products.rows(); ++i) {
     heed_interrupt();
     scatter(sums[rows[i]], group.position, products[i]);

@@ -64,8 +64,8 @@ class border_forms {
 };
 
 // The relations' constants in degree d.
-row_space relations_of_degree(const dual_module& W, const border_relations<border_forms>& constants,
-                              int size, int d) {
+row_space space_of_constants(const dual_module& W, const border_relations<border_forms>& constants,
+                             int size, int d) {
   row_space relations(size);
   std::vector<row> some;
   for (int P = W.begin(d + 2); P < W.begin(d + 3); ++P) {
@@ -103,7 +103,7 @@ std::vector<bool> superfluous_syzygies(const dual_module& W, const std::vector<i
     }
     const border_relations constants(forms, of_degree, first, end);
     const row_space relations =
-        relations_of_degree(W, constants, static_cast<int>(of_degree.size()), d);
+        space_of_constants(W, constants, static_cast<int>(of_degree.size()), d);
     for (const std::size_t pivot : relations.pivots()) superfluous[indices[pivot]] = true;
   }
   return superfluous;

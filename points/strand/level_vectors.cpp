@@ -12,6 +12,7 @@
 #include "base/interrupt.h"
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
+#include "linalg/views.h"
 
 namespace zep::points {
 
@@ -19,11 +20,6 @@ namespace {
 
 // So many rows are taken into a row space at once.
 constexpr std::ptrdiff_t block = 256;
-
-std::vector<row_view> views_of(std::vector<row>& rows) { return {rows.begin(), rows.end()}; }
-std::vector<const_row_view> const_views_of(const std::vector<row>& rows) {
-  return {rows.begin(), rows.end()};
-}
 
 // The unit rows of length n, each to be given its number.
 std::vector<row> unit_rows(std::size_t n) {

@@ -9,6 +9,7 @@
 #include "base/interrupt.h"
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
+#include "linalg/views.h"
 
 namespace zep::points {
 
@@ -43,7 +44,7 @@ std::vector<bool> pairs_with_reducing(const std::vector<linear_pair>& pairs) {
 std::vector<row> expressed(std::vector<row> functionals, const row_space& space) {
   const int n = space.rank();
   for (row& f : functionals) f.resize(2 * static_cast<std::size_t>(n));
-  space.reduce(std::vector<row_view>(functionals.begin(), functionals.end()));
+  space.reduce(views_of(functionals));
   for (row& f : functionals) {
     f.erase(f.begin(), f.begin() + n);
     scale(f, -Fp8(1));
@@ -194,8 +195,7 @@ std::vector<row> level_syzygies::coordinates() const {
     in_place.emplace_back(result[triangular_.pivots()[r]]);
   }
   if (n > 0) {
-    add_combinations(in_place, combinations,
-                     std::vector<const_row_view>(at_pairs_.begin(), at_pairs_.end()));
+    add_combinations(in_place, combinations, const_views_of(at_pairs_));
   }
   return result;
 }

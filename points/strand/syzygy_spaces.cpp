@@ -10,6 +10,7 @@
 #include "linalg/combinations.h"
 #include "linalg/row_operations.h"
 #include "linalg/row_space.h"
+#include "linalg/views.h"
 
 namespace zep::points {
 
@@ -76,8 +77,7 @@ class solution_space {
       }
     }
     if (!cs.empty() && !pivots_.empty()) {
-      add_combinations(std::vector<row_view>(sums.begin(), sums.end()), of_others,
-                       std::vector<const_row_view>(functionals_.begin(), functionals_.end()));
+      add_combinations(views_of(sums), of_others, const_views_of(functionals_));
     }
     return sums;
   }
